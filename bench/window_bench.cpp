@@ -1,0 +1,150 @@
+// What the window costs: a drag step, a step of the zoom, a deal of 104 cards, an idle window. Run it on a
+// screen (or a virtual one); it prints figures and their limits and fails when one is missed by more than a
+// quarter.
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <ctime>
+#include <memory>
+#include <string>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QScreen>
+#include <QTest>
+#include <QTimer>
+
+#include "rules/mFunc.h"
+#include "shell/cData.h"
+#include "shell/mTablePicture.h"
+#include "state/cArray.h"
+#include "state/cGames.h"
+#include "state/mGen.h"
+#include "state/mLoad.h"
+#include "table/TableView.h"
+#include "table/frmMain.h"
+#include "table/mZoom.h"
+#include "table/memorylayer.h"
+
+namespace {
+
+bool missed = false;
+
+void Print(const char* what, double value, double limit, const char* unit) {
+    constexpr double Leeway = 1.25;
+    std::printf("%-52s %9.3f %s (limit %g)\n", what, value, unit, limit);
+    missed = missed || value > limit * Leeway;
+}
+
+double ProcessorMs() {
+    timespec used{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &used);
+    return static_cast<double>(used.tv_sec) * 1000.0 + static_cast<double>(used.tv_nsec) / 1e6;
+}
+
+// The longest group of the table in the hand, moved to and fro.
+void MeasureDrag(TableView& table, double zoom) {
+    table.SetZoom(zoom);
+    mGen::StartGame("Simple Klondike", 1.0);
+    int card = -1;
+    int most = -1;
+    for (int pile = 0; pile < gGames->Piles(Home); ++pile) {
+        int above = 0;
+        if (gArray->GetTop(Home, pile) < 0) continue;
+        if (mFunc::CanLift(gArray->GetPicID(Home, pile, 0), above) && above > most) {
+            most = above;
+            card = gArray->GetPicID(Home, pile, 0);
+        }
+    }
+    QWidget* viewport = table.viewport();
+    const QPoint grip = table.mapFromScene(QPointF(mFunc::CardLeft(card) + 150, mFunc::CardTop(card) + 90));
+    QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, grip);
+    constexpr int Steps = 1000;
+    const double before = ProcessorMs();
+    for (int i = 0; i < Steps; ++i) {
+        const QPoint to = grip + QPoint(i % 2 == 0 ? i % 200 : 200 - i % 200, i % 150);
+        QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QApplication::sendEvent(viewport, &move);
+        QApplication::processEvents();
+    }
+    const double step = (ProcessorMs() - before) / Steps;
+    QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, grip);
+    const std::string what =
+        "a drag step of seven cards at " + std::to_string(std::lround(zoom * 100)) + " %";
+    Print((what + ", processor time").c_str(), step, 2.0, "ms");
+    table.SetZoom(1.0);
+}
+
+// From each size to the next and back, with all cards of a deck open, and painted.
+void MeasureZoom(TableView& table) {
+    mGen::StartGame("Freecell", 1.0);
+    double longest = 0;
+    const auto show = [&](double percent) {
+        QElapsedTimer timer;
+        timer.start();
+        table.SetZoom(percent / 100);
+        table.viewport()->repaint();
+        longest = std::max(longest, static_cast<double>(timer.nsecsElapsed()) / 1e6);
+    };
+    double percent = mZoom::Smallest;
+    for (; percent < mZoom::Largest; percent = mZoom::Larger(percent)) show(percent);
+    for (; percent > mZoom::Smallest; percent = mZoom::Smaller(percent)) show(percent);
+    Print("the longest step of the zoom, pictures rendered", longest, 250.0, "ms");
+    show(mZoom::ActualSize);
+}
+
+void MeasureDeal(const TableView& table) {
+    constexpr int Cards = 104;
+    const double period = 1000.0 / table.screen()->refreshRate();
+    QElapsedTimer timer;
+    timer.start();
+    mGen::StartGame("Mandate", 1.0);
+    const double beyond = static_cast<double>(timer.nsecsElapsed()) / 1e6 - Cards * period;
+    Print("a deal of 104 cards, time beyond 104 refreshes", beyond, 100.0, "ms");
+}
+
+// As the selection dialog shows them, one after the other; the first has the pictures rendered.
+void MeasurePreviews() {
+    const QSize size(312, 225);
+    double longest = 0;
+    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) {
+        const double before = ProcessorMs();
+        (void)mTablePicture::Preview(gData->GetGame(SiD), size, 1.0);
+        longest = std::max(longest, ProcessorMs() - before);
+    }
+    Print("the longest preview of all games, processor time", longest, 30.0, "ms");
+}
+
+void MeasureIdle() {
+    constexpr int Seconds = 10;
+    QTest::qWait(500);
+    const double before = ProcessorMs();
+    // The program's own loop: a test's waiting would poll and cost more than what is measured.
+    QTimer::singleShot(Seconds * 1000, qApp, &QApplication::quit);
+    QApplication::exec();
+    Print("an idle window with a game, share of one core", (ProcessorMs() - before) / (Seconds * 10.0), 0.5,
+          "%");
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    MemoryLayer memory;
+    auto window = std::make_unique<frmMain>();
+    mLoad::Main({*window->Table(), memory.Settings, memory.Files, memory.Calendar, memory.Sounds,
+                 memory.Forms, memory.Help});
+    window->Load();
+    const bool maximised = argc > 1 && qstrcmp(argv[1], "--maximised") == 0;
+    maximised ? window->showMaximized() : window->show();
+    (void)QTest::qWaitForWindowExposed(window.get());
+    std::printf("window of %d x %d\n", window->width(), window->height());
+    MeasureDeal(*window->Table());
+    for (const double zoom : {1.0, 1.1, 2.0, 3.0}) MeasureDrag(*window->Table(), zoom);
+    MeasureZoom(*window->Table());
+    MeasurePreviews();
+    MeasureIdle();
+    mLoad::UnloadMain();
+    return missed ? 1 : 0;
+}

@@ -1,0 +1,131 @@
+// The family "Fan": fans of three cards, moved one at a time; six games gather and deal them again.
+#include "catalogue/columns.h"
+#include "catalogue/families.h"
+#include "catalogue/family.h"
+#include "catalogue/layouts.h"
+
+namespace gFan {
+
+namespace {
+
+using namespace Columns;
+using namespace Layouts;
+
+// clang-format off
+
+// Rows of five fans; the foundations stand above the four right columns.
+constexpr Layout Fans18 = {
+    .Home  = {.StartX = 0, .StartY = 1540, .PileWidth = 2360, .PosWidth = CloseFan, .Div = 5, .DivWidth = DownTight,
+              .PileOrder = AcrossFanRight},
+    .Goal  = {.StartX = 2360, .PileWidth = 2360},
+    .Stock = {.StartX = 2360},
+    .BaseX = 11800,
+    .BaseY = 50};
+
+// The same with the redeal marker above the left column.
+constexpr Layout Fans18Redeal = {
+    .Home  = {.StartX = 0, .StartY = 1540, .PileWidth = 2360, .PosWidth = CloseFan, .Div = 5, .DivWidth = DownTight,
+              .PileOrder = AcrossFanRight},
+    .Goal  = {.StartX = 2360, .PileWidth = 2360},
+    .Stock = {.StartX = 0},
+    .BaseX = 11800,
+    .BaseY = 50};
+
+// clang-format on
+
+struct Row {
+    std::string_view Name;
+    bool Original;
+    int HomePiles;
+    int HomeCards;
+    int HomeOpen;
+    RuleCode HomeOrder;
+    int HomeAK;
+    EmptyFillType HomeFill;
+    HomeType HomePattern;
+    SuitType Suits;
+    int GoalCards;
+    RuleCode GoalOrder;
+    GoalType GoalBase;
+    int GoalAK;
+    StockMove StockPress;
+    StockNum StockMark;
+    int Redeals;
+    GameType Kind;
+    RedealType Redeal;
+    bool MoveKings;
+    int MaxCards;
+    const Layout* Places;
+};
+
+// clang-format off
+constexpr std::array<Row, 15> rows = {{
+//                                   H      H     H  H           H  H         H                             G  G         G           G  S           S
+//   Game                   O    Piles  Cards  Open  Order      AK  Fill      Type           Suits      Cards  Order     Type       AK  Move        Num     Redeals  GameType    RedealType     MoveKings  MaxCards  layout
+    {"Fan",                 no,     18,    52,    0, DownSuit,   0, KingOnly, Rows,          FourSuits,     0, UpSuit,   Aces,       0, none,       none,         0, Plain,      WasteToStock,  no,            none, &Fans18},
+    {"Fascination Fan",     no,     18,    52,   18, DownAlt,    0, Nothing,  Rows,          FourSuits,     0, UpSuit,   Aces,       0, OneToWaste, Redeal,       6, OpenRedeal, GatherTableau, no,            none, &Fans18Redeal},
+    {"History",             yes,    18,    51,    0, DownSuit,   0, Nothing,  Rows,          FourSuits,     1, UpSuit,   FirstCard,  0, none,       Redeal,       2, OpenRedeal, GatherTableau, no,            none, &Fans18Redeal},
+    {"La Belle Lucie",      no,     18,    52,    0, DownSuit,   0, Nothing,  Rows,          FourSuits,     0, UpSuit,   Aces,       0, none,       Redeal,       2, OpenRedeal, GatherTableau, no,            none, &Fans18Redeal},
+    {"Over Bridge",         yes,    18,    52,    0, DownSuit,   0, KingOnly, EvenPilesOpen, FourSuits,     0, UpSuit,   Aces,       0, none,       none,         0, Plain,      WasteToStock,  no,            none, &Fans18},
+    {"Province",            yes,    18,    51,    0, DownSuit,   1, AnyCard,  Rows,          FourSuits,     1, UpSuit,   FirstCard,  1, none,       none,         0, Plain,      WasteToStock,  no,            none, &Fans18},
+    {"Queen of Arabia",     yes,    18,    52,    0, DownOther,  0, KingOnly, Rows,          FourSuits,     0, UpSuit,   Aces,       0, none,       none,         0, Plain,      WasteToStock,  no,            none, &Fans18},
+    {"Scotch Patience",     no,     18,    52,    0, DownAny,    0, Nothing,  Rows,          FourSuits,     0, UpAlt,    Aces,       0, none,       none,         0, Plain,      WasteToStock,  no,            none, &Fans18},
+    {"Shamrocks",           no,     18,    52,    0, EitherAny,  0, Nothing,  Rows,          FourSuits,     0, UpSuit,   Aces,       0, none,       none,         0, Plain,      WasteToStock,  yes,              3, &Fans18},
+    {"Super Flower Garden", no,     18,    52,    0, DownAny,    0, Nothing,  Rows,          FourSuits,     0, UpSuit,   Aces,       0, none,       Redeal,       2, OpenRedeal, GatherTableau, no,            none, &Fans18Redeal},
+    {"Talent",              yes,    18,    52,    0, DownColor,  0, KingOnly, Rows,          FourSuits,     0, UpSuit,   Aces,       0, none,       none,         0, Plain,      WasteToStock,  no,            none, &Fans18},
+    {"Theme Park",          yes,    18,    48,    0, UpSuit,     0, AceOnly,  Rows,          FourSuits,     4, DownSuit, Kings,      0, none,       none,         0, Plain,      WasteToStock,  no,            none, &Fans18},
+    {"Treasure Island",     yes,    18,    52,    0, DownSuit,   0, KingOnly, Rows,          OneSuit,       0, UpSuit,   Aces,       0, none,       none,         0, Plain,      WasteToStock,  no,            none, &Fans18},
+    {"Trefoil",             no,     16,    48,    0, DownSuit,   0, Nothing,  Rows,          FourSuits,     4, UpSuit,   Aces,       0, none,       Redeal,       2, OpenRedeal, GatherTableau, no,            none, &Fans18Redeal},
+    {"Zero Hour",           yes,    18,    52,    0, UpSuit,     0, Nothing,  Rows,          FourSuits,     0, DownSuit, Kings,      0, none,       Redeal,       2, OpenRedeal, GatherTableau, no,            none, &Fans18Redeal},
+}};
+// clang-format on
+
+constexpr Definition Complete(const Row& row) {
+    return {.Name = row.Name,
+            .Original = row.Original,
+            .HomePiles = row.HomePiles,
+            .HomeCards = row.HomeCards,
+            .HomeOpen = row.HomeOpen,
+            .HomeOrder = row.HomeOrder,
+            .HomeMulti = AsOrder,
+            .HomeAK = row.HomeAK,
+            .HomeFill = row.HomeFill,
+            .HomeMove = no,
+            .HomePattern = row.HomePattern,
+            .Suits = row.Suits,
+            .GoalPiles = 4,
+            .GoalCards = row.GoalCards,
+            .GoalOrder = row.GoalOrder,
+            .GoalBase = row.GoalBase,
+            .GoalAK = row.GoalAK,
+            .GoalUpDown = no,
+            .StockPress = row.StockPress,
+            .StockMark = row.StockMark,
+            .StockKind = Closed,
+            .Deck = 52,
+            .Redeals = row.Redeals,
+            .NoAuto = no,
+            .GoalDiv = 0,
+            .Kind = row.Kind,
+            .Refill = none,
+            .Redeal = row.Redeal,
+            .MoveKings = row.MoveKings,
+            .MaxCards = row.MaxCards,
+            .Places = row.Places};
+}
+
+constexpr auto games = mFamily::CompleteAll(rows, Complete);
+
+static_assert(mFamily::AllSound(games));
+static_assert(mFamily::NamesDiffer(games));
+static_assert(mFamily::Originals(games) == 8);
+
+}  // namespace
+
+std::span<const Definition> Games() { return games; }
+
+void ListGames() { mFamily::List("Fan", games); }
+
+void SetGame(const std::string& name) { mFamily::Set(name, games); }
+
+}  // namespace gFan

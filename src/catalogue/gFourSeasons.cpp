@@ -1,0 +1,110 @@
+// The family "Four Seasons": five tableau piles in a cross, the foundations at its corners.
+#include "catalogue/columns.h"
+#include "catalogue/families.h"
+#include "catalogue/family.h"
+#include "catalogue/layouts.h"
+
+namespace gFourSeasons {
+
+namespace {
+
+using namespace Columns;
+using namespace Layouts;
+
+// clang-format off
+
+// The tableau is a cross, the foundations stand at its corners.
+constexpr Layout CrossAndCorners = {
+    .Home  = {.StartX = 1565, .StartY = 0, .PileWidth = Across, .PosWidth = Fan, .PileOrder = PileOrder::Cross},
+    .Goal  = {.StartX = 1665, .StartY = 100, .PileWidth = 2930, .Div = 2, .DivWidth = 3680},
+    .Stock = {.StartX = 0, .StartY = 1000},
+    .Waste = {.StartX = 0, .StartY = 2740},
+    .BaseX = 5760,
+    .BaseY = 1000};
+
+// clang-format on
+
+struct Row {
+    std::string_view Name;
+    bool Original;
+    RuleCode HomeOrder;
+    int HomeAK;
+    EmptyFillType HomeFill;
+    SuitType Suits;
+    int GoalCards;
+    RuleCode GoalOrder;
+    GoalType GoalBase;
+    int GoalAK;
+    StockNum StockMark;
+    int Redeals;
+    bool NoAuto;
+    AutoFill Refill;
+    const Layout* Places;
+};
+
+// clang-format off
+constexpr std::array<Row, 10> rows = {{
+//                               H          H  H                         G  G         G               G  S
+//   Game                   O    Order     AK  Fill       Suits      Cards  Order     Type           AK  Num       Redeals  NoAuto  AutoFill   layout
+    {"Corners",             no,  Never,     0, FromStock, FourSuits,     4, UpSuit,   OneOfEachSuit,  1, Redeal,         2, yes,    FromWaste, &CrossAndCorners},
+    {"Czarina",             no,  DownAny,   1, AnyCard,   FourSuits,     1, UpSuit,   FirstCard,      1, NoRedeal,       0, no,     FromWaste, &CrossAndCorners},
+    {"Florentine Patience", no,  DownAny,   1, AnyCard,   FourSuits,     1, UpSuit,   FirstCard,      1, Redeal,         1, no,     FromWaste, &CrossAndCorners},
+    {"Four Seasons",        no,  DownAny,   1, AnyCard,   FourSuits,     1, UpSuit,   FirstCard,      1, NoRedeal,       0, no,     none,      &CrossAndCorners},
+    {"Little Windmill",     no,  DownAny,   1, AnyCard,   FourSuits,     1, UpSuit,   Aces,           0, NoRedeal,       0, no,     none,      &CrossAndCorners},
+    {"National Anthem",     yes, DownSuit,  1, AnyCard,   OneSuit,       1, UpSuit,   FirstCard,      1, NoRedeal,       0, no,     FromWaste, &CrossAndCorners},
+    {"Octave",              yes, DownAny,   1, AnyCard,   FourSuits,     1, UpAlt,    FirstCard,      1, NoRedeal,       0, no,     none,      &CrossAndCorners},
+    {"Odyssey",             yes, UpAny,     1, AnyCard,   FourSuits,     4, DownSuit, Kings,          0, NoRedeal,       0, no,     none,      &CrossAndCorners},
+    {"Single Corners",      yes, Never,     0, FromStock, OneSuit,       4, UpSuit,   FirstCard,      1, Redeal,         2, yes,    FromWaste, &CrossAndCorners},
+    {"Zenith",              yes, DownAny,   1, AnyCard,   FourSuits,     4, UpSuit,   OneOfEachSuit,  1, NoRedeal,       0, no,     FromWaste, &CrossAndCorners},
+}};
+// clang-format on
+
+constexpr Definition Complete(const Row& row) {
+    return {.Name = row.Name,
+            .Original = row.Original,
+            .HomePiles = 5,
+            .HomeCards = 5,
+            .HomeOpen = 0,
+            .HomeOrder = row.HomeOrder,
+            .HomeMulti = AsOrder,
+            .HomeAK = row.HomeAK,
+            .HomeFill = row.HomeFill,
+            .HomeMove = no,
+            .HomePattern = Rows,
+            .Suits = row.Suits,
+            .GoalPiles = 4,
+            .GoalCards = row.GoalCards,
+            .GoalOrder = row.GoalOrder,
+            .GoalBase = row.GoalBase,
+            .GoalAK = row.GoalAK,
+            .GoalUpDown = no,
+            .StockPress = OneToWaste,
+            .StockMark = row.StockMark,
+            .StockKind = Closed,
+            .Waste = yes,
+            .Deck = 52,
+            .Redeals = row.Redeals,
+            .NoAuto = row.NoAuto,
+            .GoalDiv = 0,
+            .Kind = Plain,
+            .Refill = row.Refill,
+            .Redeal = WasteToStock,
+            .MoveKings = no,
+            .Places = row.Places};
+}
+
+constexpr auto games = mFamily::CompleteAll(rows, Complete);
+
+static_assert(mFamily::AllSound(games));
+static_assert(mFamily::NamesDiffer(games));
+static_assert(mFamily::Originals(games) == 5);
+
+}  // namespace
+
+std::span<const Definition> Games() { return games; }
+
+void ListGames() { mFamily::List("Four Seasons", games); }
+
+void SetGame(const std::string& name) { mFamily::Set(name, games); }
+
+}  // namespace gFourSeasons

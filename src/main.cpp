@@ -1,0 +1,72 @@
+// The program: splash, main window, message loop.
+#include <cstdio>
+#include <exception>
+#include <memory>
+
+#include <QApplication>
+
+#include "shell/cData.h"
+#include "shell/frmSelect.h"
+#include "shell/frmSplash.h"
+#include "shell/mIcons.h"
+#include "state/mLoad.h"
+#include "table/ProgramLayer.h"
+#include "table/TableView.h"
+#include "table/frmMain.h"
+
+namespace {
+
+// An exception is an error of this program's own. The running game is still recorded before it ends.
+class Application : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const std::exception& error) {
+            std::fprintf(stderr, "tarnival: %s\n", error.what());
+            mLoad::UnloadMain();
+            QCoreApplication::exit(1);
+            return false;
+        }
+    }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    Application application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Kelmor"));
+    QApplication::setApplicationName(QStringLiteral("Tarnival"));
+    QApplication::setDesktopFileName(QStringLiteral("tarnival"));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    ProgramLayer layer;
+    mLoad::Main(layer.Layer());
+
+    // The splash is there at once; what takes time to build is built behind it, unless it ends before.
+    std::unique_ptr<frmMain> window;
+    const auto build = [&] {
+        if (window) return;
+        QApplication::setWindowIcon(mIcons::Application());
+        window = std::make_unique<frmMain>();
+        layer.SetMain(window.get());
+    };
+    const auto showMainWindow = [&] {
+        build();
+        window->Load();
+        window->show();
+        QApplication::setQuitOnLastWindowClosed(true);
+        frmSelect dialog;
+        dialog.exec();
+    };
+    auto* splash = new frmSplash;
+    QObject::connect(splash, &frmSplash::Painted, &application, build, Qt::QueuedConnection);
+    QObject::connect(splash, &frmSplash::Ended, &application, showMainWindow, Qt::QueuedConnection);
+    splash->show();
+
+    const int result = QApplication::exec();
+    mLoad::UnloadMain();  // a session's end can stop the loop with the window still open
+    return result;
+}

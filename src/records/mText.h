@@ -1,0 +1,23 @@
+// Text in UTF-8: what files hold, and how many characters a text has.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace mText {
+
+[[nodiscard]] bool IsAscii(std::string_view text);
+[[nodiscard]] bool IsUtf8(std::string_view text);
+/// Valid UTF-8 as it stands; any other bytes read as Windows-1252, in which every byte is a character.
+[[nodiscard]] std::string FromFile(std::string_view bytes);
+
+/// Characters are code points.
+[[nodiscard]] int Length(std::string_view text);
+[[nodiscard]] std::string_view First(std::string_view text, int characters);
+
+void AppendUtf8(std::string& text, char32_t character);
+
+/// Whether a text holds a control character (C0, DEL or C1).
+[[nodiscard]] bool HasControl(std::string_view text);
+
+}  // namespace mText

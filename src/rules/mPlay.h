@@ -1,0 +1,38 @@
+// Moves by hand and by themselves: dragging, the stock's commands, redeals, autoplay, and the deal.
+#pragma once
+
+/// Redeals made in the running game; Undo does not lower it.
+extern int gRedealCount;
+
+namespace mPlay {
+
+/// Gives all cards their backs.
+void LoadControls();
+/// Gives every card of the game its value and its face.
+void AssignFaces();
+/// Lays out the game: foundations, markers, stock, waste, reserve, tableau.
+void StartDeal();
+
+/// Moves the lifted card so that the point X, Y (twips inside the card) comes under the grip, and
+/// the cards that go with it.
+void DragMove(int PicID, int Pile, int Pos, double X, double Y);
+/// Finds a place for the dragged card; returns the cards where there is none.
+void DropCard(int PicID, int Cell, int Pile, int Pos);
+void ReturnCards(int PicID, int Pile, int Pos);
+
+/// A press on a card of a closed stock.
+void PressStock();
+/// One card from the stock onto every tableau pile, as far as the stock reaches.
+void DealStockToHome();
+/// The click on the stock's marker: redeals within the limit.
+void StockClick();
+void RedealClick();
+void RedealToStock();
+void RedealGather();
+
+/// Complete runs leave, top cards that fit go to the foundations, emptied piles refill.
+void AutoPlayAll();
+/// Offers a card to the foundations, the lowest pile first; true when one took it.
+bool AutoPlayCard(int PicID);
+
+}  // namespace mPlay

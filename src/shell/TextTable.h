@@ -1,0 +1,40 @@
+// The view of a table of texts.
+#pragma once
+
+#include <vector>
+
+#include <QTableView>
+
+class TableModel;
+
+/// Rows of one height that are selected as a whole, headings that sort nothing. Columns have room for
+/// their heading and texts in any font, and share what the view is wider than that. A million rows cost
+/// no more than those in sight.
+class TextTable : public QTableView {
+    Q_OBJECT
+public:
+    /// Takes the model over.
+    TextTable(const char* name, TableModel* model);
+
+    /// Selects a row and brings it into sight.
+    void Select(int row);
+
+    /// As wide as all columns need.
+    [[nodiscard]] QSize sizeHint() const override;
+    void reset() override;
+    /// Typing finds a row in tables that are read, not in those that are too long to be searched at once.
+    void keyboardSearch(const QString& search) override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+
+private:
+    void SizeRows();
+    void MeasureColumns();
+    void SpreadColumns();
+
+    TableModel* rows_;
+    std::vector<int> needed_;  // pixels, a column each
+};

@@ -1,0 +1,29 @@
+// The number dialog: starts a game with a number that the player types, so that a deal can be played
+// again.
+#pragma once
+
+#include <QDialog>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+class frmChoose : public QDialog {
+    Q_OBJECT
+public:
+    explicit frmChoose(QWidget* owner = nullptr);
+
+private:
+    void BuildControls();
+    void Load();
+    void Select();
+
+    QComboBox* cmPlayer = nullptr;
+    QComboBox* cmGames = nullptr;
+    QLabel* lblName = nullptr;
+    QLabel* lblRange = nullptr;
+    QLineEdit* Text1 = nullptr;
+    QPushButton* cmdSelect = nullptr;
+    QPushButton* cmdCancel = nullptr;
+};

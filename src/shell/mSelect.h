@@ -1,0 +1,23 @@
+// What the dialogs offer for selection, and what the two that start a game decide.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace mSelect {
+
+/// The names of all games in catalogue order.
+[[nodiscard]] std::vector<std::string> Games();
+/// "Play": makes `player` the current player and starts the game under a fresh number.
+void Play(const std::string& player, const std::string& game);
+/// The largest number of the random range: 10^RangeIndex - 1, at least 0.
+[[nodiscard]] double LargestNumber();
+/// "0 and 999,999".
+[[nodiscard]] std::string RangeText();
+/// The message for a typed number that is none or lies outside the range; nothing for a good one.
+[[nodiscard]] std::optional<std::string> NumberFault(const std::string& typed);
+/// "Select" with a number: makes `player` current and starts the deal of that number, kept as typed.
+void PlayNumber(const std::string& player, const std::string& game, const std::string& typed);
+
+}  // namespace mSelect

@@ -1,0 +1,94 @@
+// Drawing a table from its records.
+#include "shell/mTablePicture.h"
+
+#include <algorithm>
+#include <vector>
+
+#include <QPainter>
+
+#include "shell/cData.h"
+#include "shell/mPictures.h"
+#include "state/mGen.h"
+#include "table/mRoom.h"
+
+namespace mTablePicture {
+
+namespace {
+
+constexpr MarkKind Kinds[] = {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste,
+                              MarkKind::Stock};
+
+template <typename Use>
+void ForEachMark(const cPlate& plate, Use use) {
+    for (const MarkKind kind : Kinds) {
+        for (int i = 0; i < cPlate::MarkCount(kind); ++i) {
+            if (plate.Mark(kind, i).Visible) use(plate.Mark(kind, i));
+        }
+    }
+}
+
+// The visible cards from the back to the front.
+std::vector<const CardRecord*> CardsInOrder(const cPlate& plate) {
+    std::vector<const CardRecord*> cards;
+    for (int PicID = 0; PicID < MaxCards; ++PicID) {
+        if (plate.PicCards(PicID).Visible) cards.push_back(&plate.PicCards(PicID));
+    }
+    std::sort(cards.begin(), cards.end(), [](const auto* a, const auto* b) { return a->Order < b->Order; });
+    return cards;
+}
+
+}  // namespace
+
+QRectF Extent(const cPlate& plate) {
+    const mRoom::Area taken = mRoom::Taken(plate);
+    return {QPointF(taken.Left, taken.Top), QPointF(taken.Right, taken.Bottom)};
+}
+
+QImage Draw(const cPlate& plate, const QRectF& area, double scale) {
+    const double unit = scale / mPictures::TwipsPerPixel;
+    QImage image((area.size() * unit).toSize(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    painter.scale(unit, unit);
+    painter.translate(-area.topLeft());
+    mPictures::SetBG(gData->Get(Setting::BGIndex), painter, QRectF(0, 0, PlateWidth, PlateHeight), area,
+                     gData->Get(Setting::Fade), gData->Get(Setting::CustomColor));
+    const auto place = [&](int left, int top, const QPixmap& picture) {
+        painter.save();
+        painter.translate(left, top);
+        mPictures::DrawAtWholePixels(painter, picture);
+        painter.restore();
+    };
+    ForEachMark(plate, [&](const MarkRecord& mark) {
+        place(mark.Left, mark.Top, mPictures::RightPic(mark.Picture, scale));
+    });
+    for (const CardRecord* card : CardsInOrder(plate)) {
+        place(card->Left, card->Top,
+              card->FaceMode == 1 ? mPictures::GetPic(card->DeckPic, scale)
+                                  : mPictures::MainPic(card->MainPic, scale));
+    }
+    return image;
+}
+
+cPlate OpeningDeal(const std::string& game, const GameNumber& number) {
+    mGen::AsideGame aside;
+    aside.Deal(game, number);
+    cPlate dealt = PicBack;
+    dealt.SetStage(nullptr);
+    return dealt;
+}
+
+QImage Preview(const std::string& game, const QSize& size, double pixelRatio) {
+    constexpr double Border = 200;  // twips of table around the cards
+    const cPlate plate = OpeningDeal(game, FirstDeal);
+    const QRectF cards = Extent(plate).adjusted(-Border, -Border, Border, Border);
+    const QSizeF room = QSizeF(size) * mPictures::TwipsPerPixel;
+    const double scale = std::min({room.width() / cards.width(), room.height() / cards.height(), 1.0});
+    // What is left lies on both sides, and below, where the fans will grow.
+    QRectF area(cards.topLeft(), room / scale);
+    area.moveLeft(cards.center().x() - area.width() / 2);
+    QImage image = Draw(plate, area, scale * pixelRatio);
+    image.setDevicePixelRatio(pixelRatio);
+    return image;
+}
+
+}  // namespace mTablePicture

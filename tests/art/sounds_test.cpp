@@ -1,0 +1,133 @@
+// Sounds: the format that the player expects, a level that hurts nobody, no click at either end.
+#include <algorithm>
+#include <cmath>
+#include <complex>
+#include <cstdint>
+#include <numbers>
+#include <set>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+#include <QtEndian>
+
+namespace {
+
+constexpr int HeaderSize = 44;
+constexpr double FullScale = 32768.0;
+constexpr int Rate = 44100;
+
+struct SoundRow {
+    const char* Name;
+    double Longest;  ///< seconds
+};
+
+constexpr SoundRow Rows[] = {{"START", 1.5},    {"CARDUP", 0.3}, {"CARDDOWN", 0.3},
+                             {"AUTOPLAY", 0.6}, {"UNDO", 0.6},   {"WIN", 2.0}};
+
+QByteArray Bytes(const char* name) {
+    QFile file(QStringLiteral(":/sounds/%1.wav").arg(QLatin1String(name)));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+    return file.readAll();
+}
+
+template <typename Number>
+Number At(const QByteArray& bytes, int place) {
+    return qFromLittleEndian<Number>(bytes.constData() + place);
+}
+
+std::vector<double> Samples(const QByteArray& bytes) {
+    std::vector<double> samples;
+    for (int place = HeaderSize; place + 1 < bytes.size(); place += 2) {
+        samples.push_back(At<std::int16_t>(bytes, place) / FullScale);
+    }
+    return samples;
+}
+
+TEST(Sounds, HaveTheFormatOfAPlainWaveFile) {
+    for (const SoundRow& row : Rows) {
+        const QByteArray bytes = Bytes(row.Name);
+        ASSERT_GT(bytes.size(), HeaderSize) << row.Name;
+        EXPECT_EQ(bytes.left(4), "RIFF") << row.Name;
+        EXPECT_EQ(At<std::uint32_t>(bytes, 4), bytes.size() - 8) << row.Name;
+        EXPECT_EQ(bytes.mid(8, 8), "WAVEfmt ") << row.Name;
+        EXPECT_EQ(At<std::uint16_t>(bytes, 20), 1) << row.Name << ": plain samples";
+        EXPECT_EQ(At<std::uint16_t>(bytes, 22), 1) << row.Name << ": channels";
+        EXPECT_EQ(At<std::uint32_t>(bytes, 24), static_cast<std::uint32_t>(Rate)) << row.Name;
+        EXPECT_EQ(At<std::uint32_t>(bytes, 28), static_cast<std::uint32_t>(Rate) * 2) << row.Name;
+        EXPECT_EQ(At<std::uint16_t>(bytes, 34), 16) << row.Name << ": bits";
+        EXPECT_EQ(bytes.mid(36, 4), "data") << row.Name;
+        EXPECT_EQ(At<std::uint32_t>(bytes, 40), bytes.size() - HeaderSize) << row.Name;
+    }
+}
+
+TEST(Sounds, AreNeitherLoudNorSilentNorLong) {
+    const double limit = std::pow(10.0, -3.0 / 20);
+    for (const SoundRow& row : Rows) {
+        const std::vector<double> samples = Samples(Bytes(row.Name));
+        double peak = 0;
+        double sum = 0;
+        for (const double sample : samples) {
+            peak = std::max(peak, std::abs(sample));
+            sum += sample;
+        }
+        EXPECT_LT(peak, limit) << row.Name;
+        EXPECT_GT(peak, 0.1) << row.Name;
+        EXPECT_LT(std::abs(sum / static_cast<double>(samples.size())), 0.005)
+            << row.Name << ": off the middle";
+        EXPECT_LE(static_cast<double>(samples.size()) / Rate, row.Longest) << row.Name;
+    }
+}
+
+TEST(Sounds, BeginAndEndWithoutAClick) {
+    constexpr double Silence = 0.002;
+    constexpr double Quiet = 0.02;
+    constexpr std::size_t Millisecond = Rate / 1000;
+    for (const SoundRow& row : Rows) {
+        const std::vector<double> samples = Samples(Bytes(row.Name));
+        EXPECT_LE(std::abs(samples.front()), Silence) << row.Name;
+        EXPECT_LE(std::abs(samples.back()), Silence) << row.Name;
+        for (std::size_t i = 0; i < Millisecond; ++i) {
+            EXPECT_LE(std::abs(samples[i]), Quiet) << row.Name << " at sample " << i;
+            EXPECT_LE(std::abs(samples[samples.size() - 1 - i]), Quiet)
+                << row.Name << ", " << i << " from its end";
+        }
+    }
+}
+
+// The loudest tone of that pitch (hertz) within a short stretch of the samples, as a share of full scale.
+double Loudest(const std::vector<double>& samples, double pitch) {
+    constexpr std::size_t Stretch = 2048;
+    const double turn = 2 * std::numbers::pi / Stretch;
+    const double step = 2 * std::numbers::pi * pitch / Rate;
+    double loudest = 0;
+    for (std::size_t from = 0; from + Stretch <= samples.size(); from += Stretch) {
+        std::complex<double> sum;
+        for (std::size_t i = 0; i < Stretch; ++i) {
+            const auto place = static_cast<double>(i);
+            const double window = 0.5 - 0.5 * std::cos(turn * place);
+            sum += samples[from + i] * window * std::polar(1.0, step * place);
+        }
+        loudest = std::max(loudest, 4 * std::abs(sum) / Stretch);
+    }
+    return loudest;
+}
+
+// The notes of the chord end at 12.4 kHz; what lies above would be distortion.
+TEST(Sounds, TheChordIsClean) {
+    const std::vector<double> samples = Samples(Bytes("WIN"));
+    EXPECT_GT(Loudest(samples, 783.99), 0.1);
+    for (double pitch = 14000; pitch < 21000; pitch += 50) {
+        EXPECT_LT(Loudest(samples, pitch), 0.0002) << pitch << " Hz";
+    }
+}
+
+TEST(Sounds, NoTwoAreEqual) {
+    std::set<QByteArray> different;
+    for (const SoundRow& row : Rows) different.insert(Bytes(row.Name));
+    EXPECT_EQ(different.size(), std::size(Rows));
+}
+
+}  // namespace

@@ -1,0 +1,79 @@
+"""Kills the real program at random moments of play, and looks at what the next start finds.
+
+    kills.py PROGRAM [RUNS]
+
+Each run goes on from the files that the killed one left: the program starts, a game is chosen and played at
+random with dealing, undo, replay and new games in between, and after up to three seconds it is killed. What
+stood in the score file before is still there, every line is whole, and the next start works.
+"""
+
+import os
+import random
+import sys
+import time
+
+from window import Failure, Game, Screen, wait_for
+
+GAMES = ["Klondike", "Spider", "Freecell", "Canfield", "Yukon", "Fan"]
+KEYS = ["F2", "ctrl+F2", "F12", "ctrl+z", "ctrl+x", "ctrl+c", "ctrl+v", "shift+F1", "shift+F2", "F7"]
+
+
+def score_file():
+    for path, _, files in os.walk(os.environ["XDG_DATA_HOME"]):
+        if "Player1.sre" in files:
+            with open(os.path.join(path, "Player1.sre"), "rb") as file:
+                return file.read()
+    return b""
+
+
+def play_and_kill(screen, program, seed):
+    chance = random.Random(seed)
+    game = Game(screen, program)
+    try:
+        wait_for("the splash", lambda: screen.windows("Tarnival"))
+        game.keys("space")
+        wait_for("the selection over the table", lambda: len(screen.windows("Tarnival")) >= 2)
+        game.type(chance.choice(GAMES))
+        game.keys("Return")
+        wait_for("a game", lambda: screen.windows(r"Tarnival .*\["))
+        end = time.monotonic() + chance.uniform(0, 3)
+        while time.monotonic() < end:
+            if chance.random() < 0.6:
+                screen.xdotool("key", "--clearmodifiers", chance.choice(KEYS))
+                continue
+            start, end_of_drag = ((chance.randrange(300, 1000), chance.randrange(250, 650)) for _ in range(2))
+            screen.xdotool("mousemove", *start, "mousedown", 1, "mousemove", *end_of_drag, "mouseup", 1)
+        if game.process.poll() is not None:
+            raise Failure(f"the program ended by itself with {game.process.returncode}")
+    finally:
+        game.close()
+
+
+def main():
+    program, runs = sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else 2
+    screen = Screen()
+    seed = random.randrange(1 << 30)
+    try:
+        for run in range(runs):
+            before = score_file()
+            try:
+                play_and_kill(screen, program, seed + run)
+            except Failure as failure:
+                raise Failure(f"run {run + 1}, seed {seed + run}: {failure}") from failure
+            after = score_file()
+            if not after.startswith(before):
+                raise Failure(f"run {run + 1}: records are gone")
+            if any(line.count(b",") != 6 for line in after.splitlines()) or after and not after.endswith(b"\r\n"):
+                raise Failure(f"run {run + 1}: a line is torn: {after[-200:]!r}")
+    except Failure as failure:
+        print(f"kills.py: {failure}", file=sys.stderr)
+        return 1
+    finally:
+        screen.close()
+    records = len(score_file().splitlines())
+    print(f"kills.py: {runs} starts and kills, {records} records, all whole")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,148 @@
+"""Plays a whole game in the real program with a real mouse and looks at what it records.
+
+    play.py PROGRAM TEXT-DRIVER MOVES
+
+The moves are commands of the text driver. The driver plays the same deal beside the window and says where
+each card lies before each move, and what the record must tell in the end.
+"""
+
+import csv
+import json
+import os
+import subprocess
+import sys
+import time
+
+from window import Failure, Game, Screen, wait_for
+
+GRIP = (150, 90)  # where in a card it is gripped, twips: its index, which a fan leaves free
+
+
+class Driver:
+    def __init__(self, program):
+        self.process = subprocess.Popen([program], text=True, stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+
+    def do(self, command):
+        self.process.stdin.write(command + "\n")
+        self.process.stdin.flush()
+        state = json.loads(self.process.stdout.readline())
+        if "error" in state:
+            raise Failure(f"{command}: {state['error']}")
+        return state
+
+    def close(self):
+        self.process.stdin.close()
+        self.process.wait()
+
+
+def place_of(state, card):
+    for group in state["cells"]:
+        for pile in group:
+            for picture, _, _, left, top in pile:
+                if picture == card:
+                    return left, top
+    raise Failure(f"card {card} is not on the table")
+
+
+def make(game, driver, state, command):
+    """One command in both, and the time that the window's moves take on the screen."""
+    word, *rest = command.split()
+    if word == "redeal":
+        _, left, top = state["markers"]["stock"]
+        game.press(left + 500, top + 700)
+    else:
+        left, top = place_of(state, int(rest[0]))
+        grip = (left + GRIP[0], top + GRIP[1])
+        if word == "press":
+            game.press(*grip)
+        else:
+            game.drag(grip, (int(rest[1]) + GRIP[0], int(rest[2]) + GRIP[1]))
+    after = driver.do(command)
+    time.sleep(0.06 + 0.04 * abs(after["trans"] - state["trans"]))
+    return after
+
+
+def records(folder):
+    for path, _, files in os.walk(folder):
+        if "Player1.sre" in files:
+            with open(os.path.join(path, "Player1.sre"), newline="", encoding="utf-8") as file:
+                return list(csv.reader(file))
+    return []
+
+
+def expect(what, seen, wanted):
+    if seen != wanted:
+        raise Failure(f"{what}: {seen!r} instead of {wanted!r}")
+
+
+def run(screen, program, lab, moves):
+    data = os.environ["XDG_DATA_HOME"]
+    game = Game(screen, program)
+    driver = Driver(lab)
+    try:
+        wait_for("the splash", lambda: screen.windows("Tarnival"))
+        time.sleep(0.5)
+        game.keys("space")
+        wait_for("the selection over the table", lambda: len(screen.windows("Tarnival")) >= 2)
+        time.sleep(0.5)
+        game.type("Klondike")
+        game.keys("Return")
+        wait_for("a game of Klondike", lambda: screen.windows(r"\[Klondike\]"))
+        time.sleep(1.5)
+        game.keys("alt+g", "Up", "Return")  # the last entry of the menu hides the toolbar
+
+        commands = [line.strip() for line in open(moves, encoding="utf-8") if line.strip()]
+        number = commands[0].split()[-1]
+        game.keys("ctrl+F12")
+        time.sleep(0.5)
+        game.type(number)
+        game.keys("Return")
+        title = rf"\[Klondike\] \[Player1\] \[{number}\]"
+        wait_for("the deal of that number", lambda: screen.windows(title))
+        time.sleep(1.5)
+        expect("the abandoned game", [row[-1] for row in records(data)], ["0"])
+        game.find_plate(title)
+
+        state = driver.do(commands[0])
+        for command in commands[1:]:
+            state = make(game, driver, state, command)
+        expect("the driver's own win", state["finished"], 1)
+        wait_for("the end-of-game dialog", lambda: screen.windows("Congrats"))
+        won = records(data)[-1]
+        expect("the record's game, number and result", [won[1], won[2], won[6]], ["Klondike", number, "1"])
+        time.sleep(0.3)
+        game.keys("Escape")
+
+        game.keys("F2")
+        wait_for("another game", lambda: not screen.windows(title))
+        time.sleep(1.5)
+        game.keys("alt+F4")
+        expect("the program's exit code", wait_for("its end", lambda: game.process.poll() is not None)
+               and game.process.returncode, 0)
+        expect("all results", [row[-1] for row in records(data)], ["0", "1", "0"])
+    except Failure:
+        # What stood on the screen tells most about a failure.
+        subprocess.run(["sh", "-c", "command -v import >/dev/null && import -window root failure.png"],
+                       env=screen.environment, check=False)
+        raise
+    finally:
+        game.close()
+        driver.close()
+
+
+def main():
+    program, lab, moves = sys.argv[1:]
+    screen = Screen()
+    try:
+        run(screen, program, lab, moves)
+    except Failure as failure:
+        print(f"play.py: {failure}", file=sys.stderr)
+        return 1
+    finally:
+        screen.close()
+    print("play.py: a game was chosen, abandoned, dealt by number, won, and recorded")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,386 @@
+// The rules pages: that they agree with the engine, that every number which changes play changes the text,
+// and that all 350 read properly.
+#include <algorithm>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <regex>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "catalogue/definition.h"
+#include "rules/mCards.h"
+#include "rules/mFunc.h"
+#include "rules/mPlay.h"
+#include "shell/cData.h"
+#include "shell/mRules.h"
+#include "shell/mRulesFacts.h"
+#include "state/cArray.h"
+#include "state/cTrans.h"
+#include "state/mGen.h"
+#include "support/Fixture.h"
+#include "support/RandomPlayer.h"
+#include "table/cPlate.h"
+
+namespace {
+
+class Rules : public testing::Test {
+protected:
+    Engine engine_;
+};
+
+TEST_F(Rules, EveryGameHasAPageUnderItsId) {
+    ASSERT_EQ(mRules::AllGames().size(), static_cast<std::size_t>(gData->TotalGames()));
+    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) {
+        const std::string& name = gData->GetGame(SiD);
+        const int id = mRules::AllGames()[static_cast<std::size_t>(SiD - 1)];
+        EXPECT_EQ(id, gData->GetGameID(name));
+        EXPECT_EQ(mRules::Name(id), name);
+        EXPECT_NE(mRules::Page(id).find("src=\"deal:" + std::to_string(id) + '"'), std::string::npos) << name;
+    }
+    for (const int none : {0, 100, 121, 1121}) EXPECT_EQ(mRules::Page(none), "") << none;
+}
+
+// The opening deal as the engine deals it: the closed cards of each tableau pile.
+std::vector<std::vector<bool>> DealtFaces() {
+    std::vector<std::vector<bool>> piles;
+    for (int p = 0; p < gGames->Piles(Home); ++p) {
+        std::vector<bool>& pile = piles.emplace_back();
+        for (int Pos = 0; Pos <= gArray->GetTop(Home, p); ++Pos) {
+            pile.push_back(mFunc::CardFaceMode(gArray->GetPicID(Home, p, Pos)) == 1);
+        }
+    }
+    return piles;
+}
+
+TEST_F(Rules, TheDealIsToldAsTheEngineDealsIt) {
+    mGen::AsideGame aside;
+    for (const int id : mRules::AllGames()) {
+        const std::string name = mRules::Name(id);
+        const mRulesFacts::Shape shape = mRulesFacts::ShapeOf(*mRules::Find(id));
+        aside.Deal(name, 7.0);
+        if (shape.Known) {
+            EXPECT_EQ(shape.Piles, DealtFaces()) << name;
+        }
+        EXPECT_EQ(shape.GoalCards, gArray->TotalGoalCards()) << name;
+        int reserve = 0;
+        for (int p = 0; p < gGames->Piles(Res); ++p) reserve += gArray->GetTop(Res, p) + 1;
+        EXPECT_EQ(shape.ResCards, reserve) << name;
+        EXPECT_EQ(shape.StockCards, gArray->GetTop(Stock) + 1) << name;
+        EXPECT_EQ(mRulesFacts::CardsToWin(mRulesFacts::Facts(*mRules::Find(id))), mGen::CardsToWin()) << name;
+    }
+}
+
+// Numbers that a rules page tells of: all but the name, and of the places what a player notices.
+auto NumbersOf(const Definition& game) {
+    const GroupLayout& home = game.Places->Home;
+    return std::make_tuple(
+        game.HomePiles, game.HomeCards, game.HomeOpen, game.HomeOrder, game.HomeMulti, game.HomeAK,
+        game.HomeFill, game.HomeMove, game.HomePattern, game.Suits,
+        std::make_tuple(game.GoalPiles, game.GoalCards, game.GoalOrder, game.GoalBase, game.GoalAK,
+                        game.GoalUpDown, game.StockPress, game.StockMark, game.StockKind, game.Waste),
+        std::make_tuple(game.ResPiles, game.ResCards, game.ResNum, game.Deck, game.Redeals, game.NoAuto,
+                        game.GoalDiv, game.Kind, game.Refill, game.Redeal),
+        std::make_tuple(game.MoveKings, game.Tag, game.MaxCards, game.NoH2H, home.PileOrder, home.Div,
+                        home.PosWidth, game.ResCards > game.ResPiles ? game.Places->Res.PosWidth : 0));
+}
+
+TEST_F(Rules, TheSameNumbersReadTheSameAndOthersDoNot) {
+    std::vector<std::pair<const Definition*, std::string>> texts;
+    for (const int id : mRules::AllGames()) {
+        const Definition* game = mRules::Find(id);
+        texts.emplace_back(game, mRules::PlainText(*game));
+    }
+    int alike = 0;
+    for (std::size_t a = 0; a < texts.size(); ++a) {
+        for (std::size_t b = a + 1; b < texts.size(); ++b) {
+            const bool same = NumbersOf(*texts[a].first) == NumbersOf(*texts[b].first);
+            alike += same ? 1 : 0;
+            EXPECT_EQ(same, texts[a].second == texts[b].second)
+                << texts[a].first->Name << " and " << texts[b].first->Name;
+        }
+    }
+    EXPECT_EQ(alike, 1) << "Emperor and Rank and File are one game under two names";
+}
+
+void Begin(const Definition& game, double number) {
+    gData->Set(Setting::Autoplay, 1);
+    gGames->NewGameStart();
+    mDefine::Apply(game);
+    mCards::HideAll();
+    gArray->Init(number);
+    mPlay::AssignFaces();
+    gTrans = std::make_unique<cTrans>();
+    mPlay::StartDeal();
+    gRedealCount = 0;
+    gDrag = {};
+    gData->Figures.GameRunning = true;
+    mPlay::AutoPlayAll();
+}
+
+// What a random player meets in a game: all positions, as one number. Where runs leave by themselves it
+// is all the same on which foundation they lie.
+std::uint64_t PlayOf(const Definition& game) {
+    constexpr int Deals = 3;
+    constexpr int Actions = 70;
+    std::uint64_t hash = 14695981039346656037U;
+    const auto mix = [&](int value) {
+        hash = (hash ^ static_cast<std::uint64_t>(value + 2)) * 1099511628211U;
+    };
+    for (int deal = 1; deal <= Deals; ++deal) {
+        Begin(game, deal);
+        RandomPlayer player(static_cast<std::uint32_t>(deal));
+        for (int i = 0; i < Actions && gData->Figures.GameRunning; ++i) {
+            player.Act();
+            for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
+                const CardRecord& card = PicBack.PicCards(PicID);
+                const bool run = card.Cell == Goal && game.Kind == GameType::CompleteRuns;
+                mix(card.Cell);
+                mix(run ? 0 : card.Pile);
+                mix(run ? 0 : card.Pos);
+                mix(card.FaceMode);
+            }
+        }
+        if (gData->Figures.GameRunning) mGen::CloseGame(0);
+    }
+    return hash;
+}
+
+struct Change {
+    const char* Number;
+    std::function<void(Definition&)> Make;
+};
+
+template <typename Field>
+Change Set(const char* number, Field Definition::*field, Field value) {
+    return {number, [=](Definition& game) { game.*field = value; }};
+}
+
+template <typename Field>
+void SetEach(std::vector<Change>& all, const char* number, Field Definition::*field,
+             std::initializer_list<Field> values) {
+    for (const Field value : values) all.push_back(Set(number, field, value));
+}
+
+std::vector<Change> AllChanges() {
+    std::vector<Change> all;
+    all.push_back({"Home.Piles", [](Definition& game) { ++game.HomePiles; }});
+    all.push_back({"Home.Cards", [](Definition& game) { --game.HomeCards; }});
+    all.push_back({"Res.Cards", [](Definition& game) { ++game.ResCards; }});
+    SetEach(all, "HomeOpen", &Definition::HomeOpen, {0, 3, 7, 20});
+    using enum RuleCode;
+    for (RuleCode Definition::*order :
+         {&Definition::HomeOrder, &Definition::GoalOrder, &Definition::HomeMulti}) {
+        SetEach(all, "a rule code", order,
+                {Never, DownSuit, UpSuit, EitherSuit, DownAlt, UpAlt, EitherAlt, DownAny, UpAny, Always,
+                 SameRank, EitherAny, DownOther, DownColor, UpColor, EitherColor, UpOther});
+    }
+    SetEach(all, "Home.AK", &Definition::HomeAK, {0, 1});
+    SetEach(all, "Goal.AK", &Definition::GoalAK, {0, 1});
+    SetEach(all, "EmptyFillType", &Definition::HomeFill,
+            {EmptyFillType::AnyCard, EmptyFillType::KingOnly, EmptyFillType::FromStock,
+             EmptyFillType::Nothing, EmptyFillType::AceOnly});
+    SetEach(all, "MultiMove", &Definition::HomeMove, {false, true});
+    for (int type = 0; type <= Number(HomeType::DoubleYukon); ++type) {
+        all.push_back(Set("HomeType", &Definition::HomePattern, static_cast<HomeType>(type)));
+    }
+    SetEach(all, "SuitType", &Definition::Suits,
+            {SuitType::OneSuit, SuitType::TwoSuits, SuitType::FourSuits});
+    SetEach(all, "Goal.Piles", &Definition::GoalPiles, {2, 4, 8});
+    SetEach(all, "Goal.Cards", &Definition::GoalCards, {0, 1, 4});
+    SetEach(all, "GoalType", &Definition::GoalBase,
+            {GoalType::Aces, GoalType::Twos, GoalType::Kings, GoalType::PlainAces, GoalType::AcesAndKings,
+             GoalType::FirstCard, GoalType::OneOfEachSuit});
+    SetEach(all, "GoalUpDown", &Definition::GoalUpDown, {false, true});
+    SetEach(all, "StockMove", &Definition::StockPress,
+            {StockMove::None, StockMove::OneToWaste, StockMove::OneToEachPile, StockMove::ThreeToWaste,
+             StockMove::FirstThreeToPiles});
+    SetEach(all, "StockNum", &Definition::StockMark, {StockNum::None, StockNum::NoRedeal, StockNum::Redeal});
+    SetEach(all, "StockType", &Definition::StockKind,
+            {StockType::Closed, StockType::Open, StockType::TwoSuits});
+    SetEach(all, "Res.Piles", &Definition::ResPiles, {0, 1, 3});
+    SetEach(all, "ResNum", &Definition::ResNum, {ResFreeCells, ResNoDrop});
+    SetEach(all, "Cards", &Definition::Deck, {52, 104});
+    SetEach(all, "Redeals", &Definition::Redeals, {-1, 0, 1, 2});
+    SetEach(all, "DisAutoPlay", &Definition::NoAuto, {false, true});
+    SetEach(all, "GameType", &Definition::Kind,
+            {GameType::Plain, GameType::LimitedRuns, GameType::CompleteRuns, GameType::BaseFills});
+    SetEach(all, "AutoFill", &Definition::Refill,
+            {AutoFill::None, AutoFill::FromWaste, AutoFill::NoneEither, AutoFill::FromReserve});
+    SetEach(all, "RedealType", &Definition::Redeal, {RedealType::WasteToStock, RedealType::GatherTableau});
+    SetEach(all, "MoveKings", &Definition::MoveKings, {false, true});
+    SetEach(all, "Tag", &Definition::Tag, {std::string_view(""), std::string_view("3")});
+    SetEach(all, "HomeMaxCards", &Definition::MaxCards, {0, 4});
+    SetEach(all, "NoH2HMove", &Definition::NoH2H, {false, true});
+    return all;
+}
+
+// Whether the engine can deal the changed game at all: the cross has five places, and the cones and some
+// other patterns need their piles.
+bool CanBeDealt(const Definition& game) {
+    if (!mDefine::IsSound(game)) return false;
+    const bool cross = game.Places->Home.PileOrder == PileOrder::Cross;
+    constexpr int MostPiles = 18;
+    if (game.HomePiles > (cross ? 5 : MostPiles)) return false;
+    const int type = Number(game.HomePattern);
+    const bool needsNine = type == 3 || type == 4 || type == 14 || type == 15;
+    return (!needsNine || game.HomePiles >= 9) && (type != 2 || game.HomePiles >= 4);
+}
+
+// The engine is the judge: where a random player meets other positions after a number has changed, the
+// text has to be another. (Whether such a player notices a change is a matter of chance, so a text may
+// change where the play did not.)
+TEST_F(Rules, ANumberThatChangesPlayChangesTheText) {
+    const std::vector<Change> changes = AllChanges();
+    constexpr std::size_t Step = 9;  // every ninth game: all families
+    std::map<std::string, int> noticed;
+    for (std::size_t i = 0; i < mRules::AllGames().size(); i += Step) {
+        const Definition& game = *mRules::Find(mRules::AllGames()[i]);
+        const std::uint64_t play = PlayOf(game);
+        const std::string text = mRules::PlainText(game);
+        for (const Change& change : changes) {
+            Definition changed = game;
+            change.Make(changed);
+            if (NumbersOf(changed) == NumbersOf(game) || !CanBeDealt(changed)) continue;
+            if (mRules::PlainText(changed) != text) {
+                ++noticed[change.Number];
+                continue;
+            }
+            EXPECT_EQ(PlayOf(changed), play) << game.Name << ": " << change.Number << "\n" << text;
+        }
+    }
+    std::map<std::string, int> kinds;
+    for (const Change& change : changes) ++kinds[change.Number];
+    for (const auto& [number, count] : kinds) EXPECT_GT(noticed[number], 0) << number;
+}
+
+// Numbers that mean nothing in their game leave no trace in the text.
+TEST_F(Rules, ANumberWithoutEffectIsNotTold) {
+    struct Row {
+        const char* What;
+        const char* Game;
+        std::function<void(Definition&)> Make;
+    };
+    const Row rows[] = {
+        {"the cards of a staircase", "Klondike", [](Definition& game) { game.HomeCards = 52; }},
+        {"how many cards of a staircase are open", "Klondike", [](Definition& game) { game.HomeOpen = 1; }},
+        {"redeals without the mark for one", "Forty Thieves", [](Definition& game) { game.Redeals = 3; }},
+        {"a mark where no redeal is granted", "Forty Thieves",
+         [](Definition& game) { game.StockMark = StockNum::Redeal; }},
+        {"a press on a stock that is never there", "Freecell",
+         [](Definition& game) { game.StockPress = StockMove::OneToWaste; }},
+        {"the other code for no refill", "Blockade", [](Definition& game) { game.Refill = AutoFill::None; }},
+        {"what may be dropped on no reserve", "Klondike",
+         [](Definition& game) { game.ResNum = ResFreeCells; }},
+        {"how the runs divide in a game without runs", "Freecell",
+         [](Definition& game) { game.GoalDiv = 4; }},
+        {"the tag of another pattern", "Freecell", [](Definition& game) { game.Tag = "3"; }},
+        {"a run's rule where single cards move", "Forty Thieves",
+         [](Definition& game) { game.HomeMulti = RuleCode::Always; }},
+        {"a wrap where nothing is built", "Stalactites", [](Definition& game) { game.HomeAK = 1; }},
+    };
+    for (const Row& row : rows) {
+        Definition changed = *mRules::Find(gData->GetGameID(row.Game));
+        const std::string text = mRules::PlainText(changed);
+        row.Make(changed);
+        EXPECT_EQ(mRules::PlainText(changed), text) << row.What;
+    }
+}
+
+// What a reader sees: whole sentences, no doubled blank or word, singular and plural right.
+void CheckParagraph(const std::string& paragraph, const std::string& where) {
+    static const std::regex unwanted(
+        R"(  |\b1 card|\bone cards|\b(two|three|four|five|six|\d+) card\b|\ba (Ace|Eight|eight|eleven)|\ban (King|Two)\b| [.,;:]|[.,;:][.,;:]|\b(the|a|of|and|in|to) \2\b)");
+    std::smatch found;
+    EXPECT_FALSE(std::regex_search(paragraph, found, unwanted)) << where << ": " << paragraph;
+    ASSERT_FALSE(paragraph.empty()) << where;
+    EXPECT_TRUE(std::isupper(static_cast<unsigned char>(paragraph.front())) ||
+                std::isdigit(static_cast<unsigned char>(paragraph.front())))
+        << where << ": " << paragraph;
+    EXPECT_EQ(paragraph.back(), '.') << where << ": " << paragraph;
+    static const std::regex startsSmall(R"(\. [a-z])");
+    EXPECT_FALSE(std::regex_search(paragraph, startsSmall)) << where << ": " << paragraph;
+    static const std::regex smallNumber(R"((^|[ (])([0-9]|1[0-2])([ ,.;:)]|$))");
+    EXPECT_FALSE(std::regex_search(paragraph, smallNumber)) << where << ": " << paragraph;
+}
+
+TEST_F(Rules, AllPagesReadProperly) {
+    for (const int id : mRules::AllGames()) {
+        const std::string name = mRules::Name(id);
+        std::size_t sections = 0;
+        for (const mRules::Section& section : mRules::Sections(*mRules::Find(id))) {
+            ++sections;
+            EXPECT_FALSE(section.Paragraphs.empty()) << name << ": " << section.Heading;
+            for (const std::string& paragraph : section.Paragraphs) CheckParagraph(paragraph, name);
+        }
+        EXPECT_GE(sections, 6U) << name;
+        for (const auto& [other, clause] : mRules::Relatives(id)) {
+            EXPECT_NE(other, id);
+            std::string sentence = "But " + clause + '.';
+            CheckParagraph(sentence, name + " and " + mRules::Name(other));
+        }
+    }
+}
+
+// Every tag that opens closes in its place.
+void CheckTags(const std::string& html, const std::string& where) {
+    static const std::regex tag(R"(<(/?)(\w+)[^<>]*?(/?)>)");
+    std::vector<std::string> open;
+    for (std::sregex_iterator at(html.begin(), html.end(), tag); at != std::sregex_iterator(); ++at) {
+        const std::smatch& match = *at;
+        if (match[3].length() > 0) continue;
+        if (match[1].length() == 0) {
+            open.push_back(match[2]);
+            continue;
+        }
+        ASSERT_FALSE(open.empty()) << where;
+        EXPECT_EQ(open.back(), match[2].str()) << where;
+        open.pop_back();
+    }
+    EXPECT_TRUE(open.empty()) << where;
+    static const std::regex bare(R"(&(?!amp;|lt;|gt;|nbsp;|hellip;))");
+    EXPECT_FALSE(std::regex_search(html, bare)) << where;
+    static const std::regex hollow(R"(<(p|li|h1|h2|ul)>\s*</)");
+    EXPECT_FALSE(std::regex_search(html, hollow)) << where;
+}
+
+TEST_F(Rules, PagesAreWholeAndTheirLinksLeadSomewhere) {
+    static const std::regex link("href=\"game:(\\d+)\"");
+    for (const int id : mRules::AllGames()) {
+        const std::string html = mRules::Page(id);
+        CheckTags(html, mRules::Name(id));
+        for (std::sregex_iterator at(html.begin(), html.end(), link); at != std::sregex_iterator(); ++at) {
+            EXPECT_NE(mRules::Find(std::stoi((*at)[1])), nullptr) << mRules::Name(id);
+        }
+    }
+}
+
+TEST_F(Rules, RelativesDifferInOneRespectAndKnowEachOther) {
+    using Expected = std::map<std::string, std::string>;
+    const auto named = [](const char* game) {
+        Expected relatives;
+        for (const auto& [id, clause] : mRules::Relatives(gData->GetGameID(game))) {
+            relatives[mRules::Name(id)] = clause;
+        }
+        return relatives;
+    };
+    EXPECT_EQ(named("Klondike"), (Expected{{"Excel", "the tableau builds down in the same colour"},
+                                           {"Impact", "the tableau builds down in any suit but the same"},
+                                           {"Lawn", "the tableau builds down in suit"}}));
+    EXPECT_EQ(named("Canfield").at("Superior Canfield"), "all cards of the reserve can be read");
+    EXPECT_EQ(named("Beleaguered Castle").at("Streets and Alleys"), "each foundation begins with an Ace");
+    for (const int id : mRules::AllGames()) {
+        for (const auto& [other, clause] : mRules::Relatives(id)) {
+            const auto back = mRules::Relatives(other);
+            EXPECT_TRUE(
+                std::any_of(back.begin(), back.end(), [&](const auto& game) { return game.first == id; }));
+            EXPECT_FALSE(clause.empty());
+        }
+    }
+}
+
+}  // namespace

@@ -1,0 +1,124 @@
+// Items and pixels of the table against the plate.
+#include "monkey/ScreenCheck.h"
+
+#include <set>
+
+#include <QGraphicsScene>
+#include <QGuiApplication>
+#include <QHash>
+#include <QImage>
+#include <QPixmap>
+#include <QRegion>
+#include <QScreen>
+#include <QToolBar>
+
+#include "table/KelCard.h"
+#include "table/KelEmpty.h"
+#include "table/TableView.h"
+#include "table/cPlate.h"
+#include "table/frmMain.h"
+
+namespace {
+
+struct MarkNames {
+    MarkKind Kind;
+    const char* Name;
+    bool Numbered;
+};
+
+constexpr MarkNames Marks[] = {
+    {MarkKind::Home, "PicHome", true},    {MarkKind::Right, "PicRight", true},
+    {MarkKind::Res, "PicRes", true},      {MarkKind::Waste, "PicWaste", true},
+    {MarkKind::Stock, "PicStock", false},
+};
+
+std::string Text(double x, double y) { return std::to_string(x) + ", " + std::to_string(y); }
+
+template <typename Record>
+std::string PlaceFault(const QGraphicsItem& item, const Record& record) {
+    if (item.isVisible() != record.Visible) return record.Visible ? "is not shown" : "is shown";
+    if (record.Visible && item.pos() != QPointF(record.Left, record.Top)) {
+        return "lies at " + Text(item.x(), item.y()) + " and not at " + Text(record.Left, record.Top);
+    }
+    return {};
+}
+
+std::string MarksFault(const QHash<QString, const QGraphicsItem*>& items) {
+    for (const MarkNames& marks : Marks) {
+        for (int i = 0; i < cPlate::MarkCount(marks.Kind); ++i) {
+            QString name = QLatin1String(marks.Name);
+            if (marks.Numbered) name += QString::number(i);
+            const QGraphicsItem* item = items.value(name);
+            if (!item) return "there is no mark " + name.toStdString();
+            const std::string fault = PlaceFault(*item, PicBack.Mark(marks.Kind, i));
+            if (!fault.empty()) return "mark " + name.toStdString() + ' ' + fault;
+        }
+    }
+    return {};
+}
+
+/// What stands over the table, in the window's pixels: a toolbar of a narrow window folds out over it.
+QRegion CoveredBy(const frmMain& window) {
+    QRegion region;
+    for (const QToolBar* bar : window.findChildren<QToolBar*>()) {
+        if (bar->isVisible()) region += bar->geometry();
+    }
+    return region;
+}
+
+}  // namespace
+
+namespace mScreenCheck {
+
+std::string ItemsFault(const frmMain& window) {
+    QHash<QString, const QGraphicsItem*> items;
+    int cards = 0;
+    std::set<int> heights;
+    for (const QGraphicsItem* item : window.Table()->scene()->items()) {
+        const QGraphicsObject* object = item->toGraphicsObject();
+        if (!object) continue;
+        items.insert(object->objectName(), item);
+        const auto* view = qobject_cast<const KelCard*>(object);
+        if (!view) continue;
+        ++cards;
+        const CardRecord& card = PicBack.PicCards(view->PicID());
+        const std::string name = "the view of card " + std::to_string(view->PicID());
+        const std::string fault = PlaceFault(*view, card);
+        if (!fault.empty()) return name + ' ' + fault;
+        if (!card.Visible) continue;
+        // The order of two views that are equally high would be left to the scene.
+        if (view->zValue() != card.Order) return name + " is not as high as its card";
+        if (!heights.insert(card.Order).second) return name + " is as high as another one";
+    }
+    if (cards != MaxCards) return std::to_string(cards) + " views of cards";
+    return MarksFault(items);
+}
+
+std::string PixelsFault(const frmMain& window) {
+    if (QGuiApplication::platformName() != QStringLiteral("offscreen")) return {};
+    QWidget* plate = window.Table()->viewport();
+    if (!plate->isVisible() || window.isMinimized() || plate->visibleRegion().isEmpty()) return {};
+    const QRect place(plate->mapTo(&window, QPoint()), plate->size());
+    const QRect seen = place & window.rect();
+    const QImage shown = window.screen()
+                             ->grabWindow(window.winId(), seen.x(), seen.y(), seen.width(), seen.height())
+                             .toImage()
+                             .convertToFormat(QImage::Format_RGB32);
+    const QImage drawn =
+        plate->grab(seen.translated(-place.topLeft())).toImage().convertToFormat(QImage::Format_RGB32);
+    if (shown == drawn) return {};
+    if (shown.size() != drawn.size()) return "the screen shows another size of the table";
+    const QRegion covered = CoveredBy(window).translated(-seen.topLeft());
+    for (int y = 0; y < drawn.height(); ++y) {
+        for (int x = 0; x < drawn.width(); ++x) {
+            if (shown.pixel(x, y) == drawn.pixel(x, y) || covered.contains(QPoint(x, y))) continue;
+            for (const auto& [image, file] : {std::pair{&shown, "shown.png"}, {&drawn, "drawn.png"}}) {
+                image->save(QLatin1String(file));
+            }
+            return "the screen is out of date at pixel " + Text(x, y) + " of the table";
+        }
+    }
+    return {};
+}
+
+}  // namespace mScreenCheck

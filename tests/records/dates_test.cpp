@@ -1,0 +1,166 @@
+// Dates: which texts are dates in which region, how they are shown, and arithmetic at the edges of
+// months and years.
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "records/RegionalDates.h"
+#include "records/mDates.h"
+
+namespace {
+
+using mDates::Interval;
+
+const RegionalFormat american;
+const RegionalFormat american2{.ShortDate = "M/d/yy", .LongTime = "h:mm:ss AP t"};
+const RegionalFormat british{.ShortDate = "dd/MM/yyyy", .LongTime = "HH:mm:ss t"};
+const RegionalFormat german{.ShortDate = "dd.MM.yy", .LongTime = "HH:mm:ss t"};
+const RegionalFormat swedish{.ShortDate = "yyyy-MM-dd", .LongTime = "HH:mm:ss"};
+const RegionalFormat named{.ShortDate = "d MMM yyyy", .LongTime = "HH.mm.ss"};
+const RegionalFormat hungarian{.ShortDate = "yyyy. MM. dd.", .LongTime = "H:mm:ss"};
+const RegionalFormat finnish{.ShortDate = "d.M.yyyy", .LongTime = "H.mm.ss"};
+const RegionalFormat canadian{.ShortDate = "yyyy-MM-dd", .LongTime = "HH 'h' mm 'min' ss 's'"};
+const RegionalFormat korean{
+    .ShortDate = "yy. M. d.", .LongTime = "AP h:mm:ss", .Morning = "오전", .Afternoon = "오후"};
+const RegionalFormat bulgarian{.ShortDate = "d.MM.yy 'г'.", .LongTime = "H:mm:ss 'ч'."};
+const RegionalFormat arabic{.ShortDate = "d/M/yyyy",
+                            .LongTime = "h:mm:ss AP",
+                            .Morning = "ص",
+                            .Afternoon = "م",
+                            .ZeroDigit = U'\u0660'};
+
+TEST(RegionalDates, ReadWhatSuchAProgramWrote) {
+    struct Row {
+        const RegionalFormat& Format;
+        const char* Text;
+        const char* Meaning;  // nullptr: no date
+    };
+    const Row rows[] = {
+        {german, "2004-02-29 23:59:58", "2004-02-29 23:59:58"},
+        {german, "2004-02-29", "2004-02-29 00:00:00"},
+        {german, "2003-02-29 23:59:58", nullptr},
+        {german, "2004-13-01 00:00:00", nullptr},
+        {german, "2004-12-01 24:00:00", nullptr},
+        {german, "2004-12-01 10:00", nullptr},
+
+        {american, "1/5/2004 10:22:33 PM", "2004-01-05 22:22:33"},
+        {american, "12/31/2004 12:00:01 AM", "2004-12-31 00:00:01"},
+        {american, "12/31/2004 12:00:01 PM", "2004-12-31 12:00:01"},
+        {american, "01/05/2004 1:02:03 am", "2004-01-05 01:02:03"},
+        {american, "1/5/2004", "2004-01-05 00:00:00"},
+        {american, "1/5/04 22:22:33", "2004-01-05 22:22:33"},
+        {american, "1/5/29 1:00:00 AM", "2029-01-05 01:00:00"},
+        {american, "1/5/30 1:00:00 AM", "1930-01-05 01:00:00"},
+        {american, "1/5/99 1:00:00 AM", "1999-01-05 01:00:00"},
+        {american2, "1/5/2004 10:22:33 PM", "2004-01-05 22:22:33"},
+        {american2, "1/5/04 10:22:33\u202FPM", "2004-01-05 22:22:33"},
+        {american2, "1/5/04 10:22:33 PM CET", "2004-01-05 22:22:33"},
+        {british, "05/01/2004 22:22:33", "2004-01-05 22:22:33"},
+        {british, "31/12/04 22:22:33", "2004-12-31 22:22:33"},
+        {german, "05.01.04 22:22:33", "2004-01-05 22:22:33"},
+        {german, "5.1.2004 2:02:03", "2004-01-05 02:02:03"},
+        {german, "05/01/2004 22:22:33", "2004-01-05 22:22:33"},
+        {swedish, "04-01-05 22:22:33", "2004-01-05 22:22:33"},
+        {named, "5 Jan 2004 22.22.33", "2004-01-05 22:22:33"},
+        {named, "5 DEC 04 22.22.33", "2004-12-05 22:22:33"},
+        {hungarian, "2004. 01. 05. 22:22:33", "2004-01-05 22:22:33"},
+        {hungarian, "2004.01.05 22:22:33", "2004-01-05 22:22:33"},
+        {finnish, "5.1.2004 22.22.33", "2004-01-05 22:22:33"},
+        {canadian, "2004-01-05 22 h 22 min 33 s", "2004-01-05 22:22:33"},
+        {korean, "04. 1. 5. 오후 10:22:33", "2004-01-05 22:22:33"},
+        {korean, "2004. 1. 5. 오전 12:22:33", "2004-01-05 00:22:33"},
+        {bulgarian, "5.01.04 г. 22:22:33", "2004-01-05 22:22:33"},
+        {bulgarian, "5.1.2004 22:22:33", "2004-01-05 22:22:33"},
+        {arabic, "٥/١/٢٠٠٤ ١٠:٢٢:٣٣ م", "2004-01-05 22:22:33"},
+        {arabic, "5/1/2004 10:22:33 PM", "2004-01-05 22:22:33"},
+
+        {american, "", nullptr},
+        {american, "yesterday", nullptr},
+        {american, "13/5/2004 10:22:33 PM", nullptr},
+        {american, "2/30/2004 10:22:33 PM", nullptr},
+        {american, "1/5", nullptr},
+        {american, "1/5/200 10:22:33 PM", nullptr},
+        {american, "1/5/20040 10:22:33 PM", nullptr},
+        {american, "1/5/2004 10:22:33 PM x", nullptr},
+        {american, "1/5/2004 10", nullptr},
+        {american, "1/5/200410:22:33", nullptr},
+        {american, "1x5x2004 10:22:33", nullptr},
+        {german, "05.01.04 22:61:33", nullptr},
+        {named, "5 Foo 2004 22.22.33", nullptr},
+    };
+    for (const Row& row : rows) {
+        const auto time = RegionalDates(row.Format).Read(row.Text);
+        ASSERT_EQ(time.has_value(), row.Meaning != nullptr) << row.Format.ShortDate << ": " << row.Text;
+        if (time) {
+            EXPECT_EQ(mDates::Text(*time), row.Meaning) << row.Format.ShortDate << ": " << row.Text;
+        }
+    }
+}
+
+TEST(RegionalDates, ShowDatesInTheWayOfTheRegion) {
+    struct Row {
+        const RegionalFormat& Format;
+        const char* ShortDate;
+        const char* Day;
+        const char* Month;
+    };
+    const Row rows[] = {
+        {american, "3/5/2004", "Mar 05", "Mar 04"},    {american2, "3/5/04", "Mar 05", "Mar 04"},
+        {british, "05/03/2004", "Mar 05", "Mar 04"},   {german, "05.03.04", "Mar 05", "Mar 04"},
+        {named, "5 Mar 2004", "Mar 05", "Mar 04"},     {hungarian, "2004. 03. 05.", "Mar 05", "Mar 04"},
+        {bulgarian, "5.03.04 г.", "Mar 05", "Mar 04"}, {arabic, "٥/٣/٢٠٠٤", "Mar ٠٥", "Mar ٠٤"},
+    };
+    const CivilTime date{.Year = 2004, .Month = 3, .Day = 5};
+    for (const Row& row : rows) {
+        const RegionalDates dates(row.Format);
+        EXPECT_EQ(dates.ShortDate(date), row.ShortDate);
+        EXPECT_EQ(dates.Label(date, Interval::Day), row.Day);
+        EXPECT_EQ(dates.Label(date, Interval::Month), row.Month);
+    }
+    const RegionalDates dates(american);
+    EXPECT_EQ(dates.Label(date, Interval::Year), "2004");
+    EXPECT_EQ(dates.ShortDate(std::string("2004-12-31 23:59:59")), "12/31/2004");
+    EXPECT_EQ(dates.ShortDate(std::string("some day")), "some day");
+}
+
+TEST(Dates, MoveByCalendarUnits) {
+    struct Row {
+        const char* From;
+        int Count;
+        Interval Unit;
+        const char* To;
+    };
+    const Row rows[] = {
+        {"2004-03-01 12:00:00", -1, Interval::Day, "2004-02-29 12:00:00"},
+        {"2003-03-01 12:00:00", -1, Interval::Day, "2003-02-28 12:00:00"},
+        {"2004-01-01 00:00:00", -1, Interval::Day, "2003-12-31 00:00:00"},
+        {"2004-12-31 23:59:59", 1, Interval::Day, "2005-01-01 23:59:59"},
+        {"2004-03-31 12:00:00", -1, Interval::Month, "2004-02-29 12:00:00"},
+        {"2004-05-31 12:00:00", -1, Interval::Month, "2004-04-30 12:00:00"},
+        {"2004-01-31 12:00:00", -1, Interval::Month, "2003-12-31 12:00:00"},
+        {"2004-01-31 12:00:00", -14, Interval::Month, "2002-11-30 12:00:00"},
+        {"2004-12-15 12:00:00", 1, Interval::Month, "2005-01-15 12:00:00"},
+        {"2004-02-29 12:00:00", -1, Interval::Year, "2003-02-28 12:00:00"},
+        {"2004-02-29 12:00:00", -4, Interval::Year, "2000-02-29 12:00:00"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(mDates::Text(mDates::Moved(*mDates::ParseFixed(row.From), row.Count, row.Unit)), row.To)
+            << row.From << " " << row.Count;
+    }
+}
+
+TEST(Dates, DayNumbersCountFrom1970) {
+    const auto day = [](const char* text) { return mDates::DayNumber(*mDates::ParseFixed(text)); };
+    EXPECT_EQ(day("1970-01-01"), 0);
+    EXPECT_EQ(day("1969-12-31"), -1);
+    EXPECT_EQ(day("2000-03-01"), 11017);
+    EXPECT_EQ(day("9999-12-31"), 2932896);
+    EXPECT_EQ(mDates::Text(mDates::FromDayNumber(11016)), "2000-02-29 00:00:00");
+    EXPECT_EQ(mDates::Seconds(*mDates::ParseFixed("1970-01-02 01:02:03")), 90123);
+    EXPECT_THROW((void)mDates::IntervalOf("w"), std::out_of_range);
+}
+
+}  // namespace

@@ -1,0 +1,133 @@
+// Charts: whatever the values are, each leaves a bar in its own part of the plot, and its labels are round.
+#include <limits>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "records/mPlot.h"
+
+using mPlot::Kind;
+using mStatistics::ChartData;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+
+namespace {
+
+constexpr int Largest = std::numeric_limits<int>::max();
+constexpr int Smallest = std::numeric_limits<int>::min();
+
+std::vector<std::string> Texts(const std::vector<mPlot::Label>& labels) {
+    std::vector<std::string> texts;
+    for (const mPlot::Label& label : labels) texts.push_back(label.Text);
+    return texts;
+}
+
+ChartData Efforts(std::vector<std::vector<std::optional<int>>> rows) {
+    ChartData data{{"Score", "Moves", "Time"}, std::move(rows)};
+    for (std::size_t i = 0; i < data.Rows.size(); ++i) data.Points.push_back(std::to_string(i));
+    return data;
+}
+
+TEST(Plot, EveryValueLeavesABarAndNoneHidesAnother) {
+    constexpr double Visible = 0.005;
+    struct Row {
+        Kind Shape;
+        ChartData Data;
+    };
+    const Row rows[] = {
+        {Kind::Result, {{"Won : 1", "Lost : 1000000"}, {{1, 1000000}}}},
+        {Kind::Result, {{"Won : 0", "Lost : 0"}, {{0, 0}}}},
+        {Kind::Effort, Efforts({{0, Largest, 1}})},
+        {Kind::Effort, Efforts({{0, -7, Smallest}})},
+        {Kind::Periods, {{"Played", "Won"}, {{0, 0}, {100000, 1}, {3, 2}}, {"a", "b", "c"}}},
+        {Kind::Strips, Efforts({{std::nullopt, std::nullopt, std::nullopt}})},
+        {Kind::Strips, Efforts({{std::nullopt, std::nullopt, std::nullopt}, {-52, 240, 1}, {520, 1, 4000}})},
+        {Kind::Strips, Efforts({{-1, -1, -1}, {Largest, Largest, Largest}, {0, 0, 0}})},
+        {Kind::Strips, Efforts({{Smallest, 0, Smallest}, {Largest, 0, -1}})},
+        {Kind::Strips, Efforts({{-3, -2, -1}})},
+    };
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        SCOPED_TRACE(i);
+        const mPlot::Plot plot = mPlot::Make(rows[i].Shape, rows[i].Data);
+        std::size_t values = 0;
+        for (const auto& row : rows[i].Data.Rows) {
+            for (const auto& value : row) values += value ? 1 : 0;
+        }
+        EXPECT_EQ(plot.Bars.size(), values);
+        std::map<int, double> reached;  // by place, from the top down
+        for (const mPlot::Bar& bar : plot.Bars) {
+            EXPECT_GE(bar.Top - bar.Bottom, Visible);
+            EXPECT_GE(bar.Bottom, 0.0);
+            EXPECT_LE(bar.Top, reached.contains(bar.Place) ? reached[bar.Place] : 1.001);
+            reached[bar.Place] = bar.Bottom;
+            EXPECT_TRUE(bar.Place >= 0 && bar.Place < plot.Places);
+        }
+        for (const mPlot::Label& label : plot.Heights) EXPECT_TRUE(label.At >= 0.0 && label.At <= 1.0);
+    }
+}
+
+TEST(Plot, ASmallValueIsHigherThanNoneAndLowerThanALargeOne) {
+    for (const Kind kind : {Kind::Effort, Kind::Strips}) {
+        const auto data = kind == Kind::Effort ? Efforts({{0, 1, 100000}})
+                                               : Efforts({{0, 0, 0}, {1, 1, 1}, {100000, 1000, 1000}});
+        const auto bars = mPlot::Make(kind, data).Bars;
+        for (std::size_t i = 1; i < 3; ++i) {
+            EXPECT_GT(bars[i].Top - bars[i].Bottom, bars[i - 1].Top - bars[i - 1].Bottom);
+        }
+    }
+}
+
+TEST(Plot, HeightsAreLabelledAtRoundNumbers) {
+    struct Row {
+        int Low, High;  // of the scores and of the times
+        std::vector<std::string> Scores, Times;
+    };
+    const Row rows[] = {
+        {0, 0, {"0"}, {"0:00:00"}},
+        {0, 1, {"0", "1"}, {"0:00:00", "0:00:01"}},
+        {-52, 520, {"0", "200", "400"}, {"0:00:00", "0:05:00"}},
+        {-400, 390, {"-400", "-200", "0", "200"}, {}},
+        {0, 4000, {"0", "2000", "4000"}, {"0:00:00", "0:30:00", "1:00:00"}},
+        {0, 90000, {"0", "50000"}, {"0:00:00", "10:00:00", "20:00:00"}},
+        {-8, -3, {"-5", "0"}, {}},
+        {0, Largest, {"0", "1000000000", "2000000000"}, {"0:00:00", "200000:00:00", "400000:00:00"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.High);
+        ChartData one{{"Score"}, {{row.Low}, {row.High}}, {"1", "2"}};
+        EXPECT_THAT(Texts(mPlot::Make(Kind::Strips, one).Heights), ElementsAreArray(row.Scores));
+        if (row.Times.empty()) continue;
+        const auto heights = mPlot::Make(Kind::Strips, Efforts({{0, 0, row.Low}, {0, 0, row.High}})).Heights;
+        std::vector<std::string> times;
+        for (const std::string& text : Texts(heights)) {
+            if (text.find(':') != std::string::npos) times.push_back(text);
+        }
+        EXPECT_THAT(times, ElementsAreArray(row.Times));
+    }
+}
+
+TEST(Plot, LabelsKeepTheirDistance) {
+    const std::vector<mPlot::Label> labels{{0.0, "0", true}, {0.1, "50"},  {0.2, "100"},
+                                           {0.3, "0", true}, {0.5, "200"}, {0.7, "400"}};
+    EXPECT_THAT(Texts(mPlot::Spaced(labels, 0.05)), ElementsAre("0", "50", "100", "0", "200", "400"));
+    EXPECT_THAT(Texts(mPlot::Spaced(labels, 0.15)), ElementsAre("0", "0", "200", "400"));
+    EXPECT_THAT(Texts(mPlot::Spaced(labels, 0.25)), ElementsAre("0", "0", "400"));
+    EXPECT_EQ(mPlot::LabelStep(47, 50), 1);
+    EXPECT_EQ(mPlot::LabelStep(47, 25), 2);
+    EXPECT_EQ(mPlot::LabelStep(47, 15), 5);
+    EXPECT_EQ(mPlot::LabelStep(47, 1), 50);
+}
+
+TEST(Plot, SaysItsValuesInWords) {
+    const ChartData result{{"Won : 20", "Lost : 40"}, {{20, 40}}};
+    EXPECT_EQ(mPlot::Description(Kind::Result, result), "Won : 20, Lost : 40");
+    EXPECT_EQ(
+        mPlot::Description(Kind::Strips,
+                           Efforts({{std::nullopt, std::nullopt, std::nullopt}, {-5, 7, 61}, {1, 2, 3}})),
+        "1: Score -5, Moves 7, Time 0:01:01; 2: Score 1, Moves 2, Time 0:00:03");
+}
+
+}  // namespace

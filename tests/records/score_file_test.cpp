@@ -1,0 +1,213 @@
+// Lines of the score and favourites files: every form that is read, every fault that is not, and texts
+// in other encodings.
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "Records.h"
+#include "records/mScoreFile.h"
+#include "records/mText.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+struct LineRow {
+    const char* Says;
+    std::string Line;
+    bool Reads = true;
+};
+
+TEST(ScoreLine, IsReadOrLeftOutAsAWhole) {
+    const std::vector<LineRow> rows = {
+        {"a drawn number", R"("2004-01-05 22:10:33","Klondike",123,60,45,-7,0)"},
+        {"a typed number", R"("2004-01-05 22:10:33","Klondike","123",60,45,100,1)"},
+        {"a comma inside a text", R"("1/5/2004, 10 PM","A, B",1,2,3,4,1)"},
+        {"an unquoted name", R"(1/5/2004,Klondike,1,2,3,4,1)"},
+        {"blanks around the commas", R"("d" , "g", 1 ,2, 3,4 ,1 )"},
+        {"a typed text that is no number", R"("d","g","x",2,3,4,1)"},
+        {"an empty date", R"("","g",1,2,3,4,0)"},
+        {"the ends of 32 bits", R"("d","g",1,2147483647,2147483647,-2147483648,1)"},
+
+        {"cut off in the date", R"("2004-01-0)", false},
+        {"cut off in the name", R"("2004-01-05 22:10:33","Klon)", false},
+        {"cut off behind the name", R"("2004-01-05 22:10:33","Klondike")", false},
+        {"cut off in the score", R"("2004-01-05 22:10:33","Klondike",123,60,45,10)", false},
+        {"cut off before the result", R"("2004-01-05 22:10:33","Klondike",123,60,45,100,)", false},
+        {"a torn line and a whole one", R"("2004-01-0"2004-01-05 22:10:33","Klondike",123,60,45,100,1)",
+         false},
+        {"eight fields", R"("d","g",1,2,3,4,1,1)", false},
+        {"a number that is none", R"("d","g",12x,2,3,4,1)", false},
+        {"no number", R"("d","g",,2,3,4,1)", false},
+        {"a time beyond 32 bits", R"("d","g",1,2147483648,3,4,1)", false},
+        {"a broken time", R"("d","g",1,1.5,3,4,1)", false},
+        {"a result beyond 16 bits", R"("d","g",1,2,3,4,32768)", false},
+        {"text behind a quote", R"("d"x,"g",1,2,3,4,1)", false},
+        {"no record at all", "Score Board", false},
+    };
+    for (const LineRow& row : rows) {
+        SCOPED_TRACE(row.Says);
+        mScoreFile::ScoreFields fields;
+        EXPECT_EQ(mScoreFile::ParseScore(row.Line, fields), row.Reads);
+    }
+    mScoreFile::ScoreFields fields;
+    ASSERT_TRUE(mScoreFile::ParseScore(R"("1/5/2004, 10 PM","A, B","007",2,3,-4,1)", fields));
+    EXPECT_EQ(fields.Date, "1/5/2004, 10 PM");
+    EXPECT_EQ(fields.gName, "A, B");
+    EXPECT_TRUE(fields.GameNo.Quoted);
+    EXPECT_EQ(fields.GameNo.Text, "007");
+    EXPECT_EQ((std::vector<int>{fields.Time, fields.Moves, fields.Score, fields.Won}),
+              (std::vector<int>{2, 3, -4, 1}));
+}
+
+TEST(ScoreLine, ComesBackFromTheStoreAsItWasWritten) {
+    const GameNumber numbers[] = {0.0,
+                                  999999999999999.0,
+                                  -5.0,
+                                  2.5,
+                                  std::string("5"),
+                                  std::string("0"),
+                                  std::string("007"),
+                                  std::string(" 7 "),
+                                  std::string("-3"),
+                                  std::string("9999999999999999")};
+    const char* dates[] = {
+        "2004-02-29 23:59:59", "1/5/2004 10:22:33 PM", "2004-02-30 00:00:00", "2004-01-05", "", "yesterday"};
+    Records records;
+    std::vector<tScore> written;
+    for (const GameNumber& number : numbers) {
+        for (const char* date : dates) {
+            written.push_back({.Date = date,
+                               .gName = "Baker's Dozen",
+                               .GameNo = number,
+                               .Time = 3600,
+                               .Moves = 120,
+                               .Score = -32768,
+                               .Won = 1,
+                               .Player = "Player1"});
+            records.AddLine("Player1", mScoreFile::ScoreLine(written.back()));
+        }
+    }
+    gScore->OpenAllScore();
+    ASSERT_EQ(gScore->ScoreTop(), static_cast<int>(written.size()));
+    for (std::size_t i = 0; i < written.size(); ++i) {
+        EXPECT_EQ(gScore->GetScore(static_cast<int>(i) + 1), written[i]) << mScoreFile::ScoreLine(written[i]);
+    }
+}
+
+TEST(ScoreLine, ATypedTextCannotBreakTheLine) {
+    const tScore record{.Date = "d", .gName = "g", .GameNo = std::string("1\",\"2\r\n3"), .Player = {}};
+    const std::string line = mScoreFile::ScoreLine(record);
+    EXPECT_EQ(line, "\"d\",\"g\",\"1','2  3\",0,0,0,0");
+}
+
+TEST(FavLine, IsReadOrLeftOut) {
+    const std::vector<LineRow> rows = {
+        {"a drawn number", R"("Klondike",123)"},
+        {"a typed number", R"("Klondike","123")"},
+        {"cut off in the name", R"("Klond)", false},
+        {"no number", R"("Klondike")", false},
+        {"an empty number", R"("Klondike",)", false},
+        {"cut off in the number", R"("Klondike","12)", false},
+        {"too many fields", R"("Klondike",1,2)", false},
+    };
+    for (const LineRow& row : rows) {
+        SCOPED_TRACE(row.Says);
+        const auto favourite = mScoreFile::ParseFav(row.Line);
+        EXPECT_EQ(favourite.has_value(), row.Reads);
+        if (favourite) {
+            EXPECT_EQ(mScoreFile::FavLine(*favourite), row.Line);
+        }
+    }
+}
+
+TEST(Lines, EndInAnyWay) {
+    const auto lines = [](const std::string& content) {
+        std::vector<std::string> read;
+        mScoreFile::ForEachLine(content, [&](std::string_view line) {
+            read.emplace_back(line);
+            return true;
+        });
+        return read;
+    };
+    EXPECT_THAT(lines("a\r\nb\nc"), ElementsAre("a", "b", "c"));
+    EXPECT_THAT(lines("\r\n\n  \r\na\r\r\n"), ElementsAre("a")) << "an empty line is no fault";
+    EXPECT_THAT(lines(""), IsEmpty());
+    EXPECT_THAT(lines("\xEF\xBB\xBF"
+                      "a\r\n"),
+                ElementsAre("a"))
+        << "the mark of UTF-8";
+    // Line by line: an old program's lines stand beside those of a new one.
+    EXPECT_THAT(lines("Zo\xEB \x80\r\nZo\xC3\xAB\r\n\x81\r\n"), ElementsAre("Zoë €", "Zoë", "\xC2\x81"));
+}
+
+TEST(Text, OnlyValidUtf8IsTakenAsSuch) {
+    const char* valid[] = {"", "abc", "é", "€", "\xF0\x9F\x83\x8F", "\xED\x9F\xBF", "\xF4\x8F\xBF\xBF"};
+    const char* broken[] = {"\x80",
+                            "\xC0\x80",
+                            "\xC3",
+                            "\xE2\x82",
+                            "\xE0\x80\x80",
+                            "\xED\xA0\x80",
+                            "\xF0\x80\x80\x80",
+                            "\xF4\x90\x80\x80",
+                            "\xF5\x80\x80\x80",
+                            "\xC3\xC3"};
+    for (const char* text : valid) EXPECT_TRUE(mText::IsUtf8(text)) << text;
+    for (const char* text : broken) {
+        EXPECT_FALSE(mText::IsUtf8(text));
+        EXPECT_TRUE(mText::IsUtf8(mText::FromFile(text)));
+    }
+    EXPECT_EQ(mText::Length("Zoë €"), 5);
+    EXPECT_EQ(mText::First("Zoë €x", 3), "Zoë");
+    EXPECT_EQ(mText::First("Zoë", 12), "Zoë");
+}
+
+// Whatever a damaged file holds: it is read to its end, and no whole line beside the damage is lost.
+TEST(Lines, DamageNeverStopsTheReader) {
+    const std::string whole = R"("2004-01-05 22:10:33","Klondike",123,60,45,100,1)";
+    const std::string source =
+        whole + "\r\n\"5/1/04 1:02:03 PM\",\"Baker's Dozen\",\"77\",1,2,-3,0\r\n\"Zo\xEB\",5\r\n";
+    const std::string interesting = std::string("\",\r\n0-9/:. \xFF\xC3") + '\0';
+    std::mt19937 random(20040105);  // NOLINT: the same cases at every run
+    const auto below = [&random](std::size_t limit) { return static_cast<std::size_t>(random() % limit); };
+    Records records;
+    for (int round = 0; round < 4000; ++round) {
+        std::string damaged = source;
+        for (std::size_t change = below(8) + 1; change > 0; --change) {
+            const std::size_t at = below(damaged.size() + 1);
+            const std::size_t rest = damaged.size() - at;
+            switch (below(4)) {
+                case 0:
+                    damaged.insert(at, 1, interesting[below(interesting.size())]);
+                    break;
+                case 1:
+                    damaged.erase(at, below(rest + 1) % 20);
+                    break;
+                case 2:
+                    if (rest > 0) damaged[at] = static_cast<char>(below(256));
+                    break;
+                default:
+                    damaged.insert(at, damaged.substr(0, below(30)));
+            }
+        }
+        records.File("Player1") = damaged + "\r\n" + whole;
+        records.Layer.Files.Contents[cScore::FavFileName()] = damaged + "\n\"Klondike\",5";
+        gScore->OpenAllScore();
+        gScore->OpenFav();
+        ASSERT_GE(gScore->ScoreTop(), 1);
+        const tScore last = gScore->GetScore(gScore->ScoreTop());
+        ASSERT_EQ(mScoreFile::ScoreLine(last), whole);
+        for (int i = 1; i <= gScore->ScoreTop(); ++i) ASSERT_TRUE(mText::IsUtf8(gScore->GetScore(i).gName));
+        ASSERT_GE(gScore->FavTop(), 1);
+        ASSERT_EQ(gScore->GetFav(gScore->FavTop()).mName, "Klondike");
+        gScore->Sort();
+        gScore->FinSort(true, false);
+    }
+}
+
+}  // namespace

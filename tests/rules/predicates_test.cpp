@@ -1,0 +1,127 @@
+// The rule codes: which card fits on which, with and without the wrap from King to Ace.
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "rules/mFunc.h"
+#include "state/cArray.h"
+#include "support/Fixture.h"
+
+namespace {
+
+using mPosition::Card;
+
+// Those of the cards that fit on `below`.
+std::string Fitting(const char* below, const char* cards, RuleCode code, bool AK) {
+    std::string fitting;
+    std::istringstream words(cards);
+    for (std::string card; words >> card;) {
+        if (!mFunc::OrderOK(Card(below), Card(card), code, AK)) continue;
+        if (!fitting.empty()) fitting += ' ';
+        fitting += card;
+    }
+    return fitting;
+}
+
+TEST(Predicates, RuleCodes) {
+    const Engine engine;
+    mPosition::Begin({});
+    struct Row {
+        RuleCode Code;
+        const char* OnSeven;  // of hearts
+        const char* OnAce;    // of hearts, wrapped
+        const char* OnKing;   // of hearts, wrapped
+    };
+    constexpr const char* all = "6H 6S 6D 6C 8H 8S 8D 8C 7S 9H 5H";
+    constexpr const char* kings = "KH KS KD";
+    constexpr const char* aces = "AH AS AD";
+    // clang-format off
+    const Row rows[] = {
+        {RuleCode::Never,       "",                        "",         ""},
+        {RuleCode::DownSuit,    "6H",                      "KH",       ""},
+        {RuleCode::UpSuit,      "8H",                      "",         "AH"},
+        {RuleCode::EitherSuit,  "6H 8H",                   "KH",       "AH"},
+        {RuleCode::DownAlt,     "6S 6C",                   "KS",       ""},
+        {RuleCode::UpAlt,       "8S 8C",                   "",         "AS"},
+        {RuleCode::EitherAlt,   "6S 6C 8S 8C",             "KS",       "AS"},
+        {RuleCode::DownAny,     "6H 6S 6D 6C",             "KH KS KD", ""},
+        {RuleCode::UpAny,       "8H 8S 8D 8C",             "",         "AH AS AD"},
+        {RuleCode::Always,      all,                       kings,      aces},
+        {RuleCode::SameRank,    "7S",                      "",         ""},
+        {RuleCode::EitherAny,   "6H 6S 6D 6C 8H 8S 8D 8C", "KH KS KD", "AH AS AD"},
+        {RuleCode::DownOther,   "6S 6D 6C",                "KS KD",    ""},
+        {RuleCode::DownColor,   "6H 6D",                   "KH KD",    ""},
+        {RuleCode::UpColor,     "8H 8D",                   "",         "AH AD"},
+        {RuleCode::EitherColor, "6H 6D 8H 8D",             "KH KD",    "AH AD"},
+        {RuleCode::UpOther,     "8S 8D 8C",                "",         "AS AD"},
+        {RuleCode{11},          "",                        "",         ""},
+        {RuleCode{13},          "",                        "",         ""},
+        {RuleCode{14},          "",                        "",         ""},
+        {RuleCode{20},          "",                        "",         ""},
+        {RuleCode{-1},          "",                        "",         ""},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        SCOPED_TRACE(Number(row.Code));
+        EXPECT_EQ(Fitting("7H", all, row.Code, false), row.OnSeven);
+        EXPECT_EQ(Fitting("7H", all, row.Code, true), row.OnSeven);
+        EXPECT_EQ(Fitting("AH", kings, row.Code, true), row.OnAce);
+        EXPECT_EQ(Fitting("KH", aces, row.Code, true), row.OnKing);
+        const bool always = row.Code == RuleCode::Always;
+        EXPECT_EQ(Fitting("AH", kings, row.Code, false), always ? kings : "");
+        EXPECT_EQ(Fitting("KH", aces, row.Code, false), always ? aces : "");
+    }
+}
+
+TEST(Predicates, SuitsOfAGameDecide) {
+    const Engine engine;
+    struct Row {
+        SuitType Suits;
+        const char* Below;
+        const char* Card;
+        RuleCode Code;
+        bool Fits;
+    };
+    const Row rows[] = {
+        // One suit: everything counts as Hearts.
+        {SuitType::OneSuit, "7S", "6H", RuleCode::DownSuit, true},
+        {SuitType::OneSuit, "7S", "6H", RuleCode::DownAlt, false},
+        {SuitType::OneSuit, "7S", "6H", RuleCode::DownOther, false},
+        // Two suits: the first two of a deck are one, the last two the other.
+        {SuitType::TwoSuits, "7H", "6S", RuleCode::DownSuit, true},
+        {SuitType::TwoSuits, "7H", "6C", RuleCode::DownSuit, false},
+        {SuitType::TwoSuits, "7H", "6D", RuleCode::DownAlt, true},
+        {SuitType::TwoSuits, "7D'", "6C", RuleCode::DownSuit, true},
+        {SuitType::FourSuits, "7H'", "6H", RuleCode::DownSuit, true},
+    };
+    for (const Row& row : rows) {
+        TestGame game;
+        game.Home.SuitType = row.Suits;
+        game.Ext.Cards = 104;
+        mPosition::Begin(game);
+        EXPECT_EQ(mFunc::OrderOK(Card(row.Below), Card(row.Card), row.Code, false), row.Fits)
+            << row.Card << " on " << row.Below;
+    }
+}
+
+// The values at the ends of the second deck name the right card.
+TEST(Predicates, ValuesOfTwoDecks) {
+    const Engine engine;
+    TestGame game;
+    game.Ext.Cards = 104;
+    mPosition::Begin(game);
+    const int first = Card("KC");
+    const int second = Card("KC'");
+    EXPECT_EQ(gArray->GetRandom(first), 51);
+    EXPECT_EQ(gArray->GetRandom(second), 103);
+    for (const int king : {first, second}) {
+        EXPECT_EQ(mFunc::CardNum(king), 12);
+        EXPECT_EQ(mFunc::CardSuit(king), 3);
+        EXPECT_EQ(mFunc::CardColor(king), 2);
+    }
+    EXPECT_EQ(mFunc::CardSuitpile(first), 3);
+    EXPECT_EQ(mFunc::CardSuitpile(second), 7);
+}
+
+}  // namespace

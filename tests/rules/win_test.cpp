@@ -1,0 +1,286 @@
+// Winning a game in every way, and what the end-of-game dialog starts afterwards: by then the chain of
+// moves that won must have ended, so that nothing of it touches the new deal.
+#include <string>
+#include <variant>
+
+#include <gtest/gtest.h>
+
+#include "records/cScore.h"
+#include "rules/mFunc.h"
+#include "rules/mPlay.h"
+#include "shell/cData.h"
+#include "state/cArray.h"
+#include "state/cTrans.h"
+#include "state/mGen.h"
+#include "support/Checks.h"
+#include "support/Fixture.h"
+#include "table/cPlate.h"
+#include "table/mMain.h"
+
+namespace {
+
+using mPosition::Card;
+
+// One card short of a win: the King of Clubs lies on tableau pile 0.
+void LayAllButOne(const TestGame& game) {
+    mPosition::Begin(game);
+    mPosition::Lay(Goal, 0, "AH-KH");
+    mPosition::Lay(Goal, 1, "AS-KS");
+    mPosition::Lay(Goal, 2, "AD-KD");
+    mPosition::Lay(Goal, 3, "AC-QC");
+    mPosition::Lay(Home, 0, "KC");
+}
+
+void WinByDrag() {
+    gData->Set(Setting::Autoplay, 0);
+    LayAllButOne({});
+    mPosition::DragTo(Card("KC"), Goal, 3);
+}
+
+// The move to the tableau frees the rest, which goes up in a chain.
+void WinByAutoplay() {
+    mPosition::Begin({});
+    mPosition::Lay(Goal, 0, "AH-KH");
+    mPosition::Lay(Goal, 1, "AS-KS");
+    mPosition::Lay(Goal, 2, "AD-TD");
+    mPosition::Lay(Goal, 3, "AC-TC");
+    mPosition::Lay(Home, 0, "(KD) (QC) JD KC");
+    mPosition::Lay(Home, 1, "(QD) JC");
+    gData->Set(Setting::Autoplay, 0);
+    mPosition::DragTo(Card("KC"), Home, 2);
+    gData->Set(Setting::Autoplay, 1);
+    mPosition::DragTo(Card("KC"), Home, 3);
+}
+
+// The log of this position holds the winning move and one more after it, both undone. By play it cannot
+// come to that, as a win ends the game; so the moves are made while no game counts as running.
+void LogTheWinningMove() {
+    gData->Set(Setting::Autoplay, 0);
+    LayAllButOne({});
+    mPosition::DragTo(Card("KC"), Home, 1);
+    gData->Figures.GameRunning = false;
+    gArray->MoveCard(Card("KC"), Goal, 3, 12, tMod::Play, 0, 0, 0, true);
+    gArray->MoveCard(Card("KC"), Home, 2, 0, tMod::Play, 0, 0, 0, true);
+    while (gTrans->UndoPossible()) gTrans->Undo(0);
+    gData->Figures.GameRunning = true;
+}
+
+void WinByRedo() {
+    LogTheWinningMove();
+    mMain::Redo(0);
+    EXPECT_TRUE(gData->Figures.GameRunning);
+    mMain::Redo(0);
+}
+
+void WinByRedoAll() {
+    LogTheWinningMove();
+    mMain::RedoAll(0);
+}
+
+void WinByReplay() {
+    LogTheWinningMove();
+    mMain::ReplayForward();
+    for (int i = 0; i < 10; ++i) mMain::TickReplay();
+    EXPECT_EQ(mMain::ReplayState(), mMain::Replay::Stopped);
+}
+
+void WinBySwitchingAutoplayOn() {
+    gData->Set(Setting::Autoplay, 0);
+    LayAllButOne({});
+    mMain::FlipAutoplay();
+}
+
+void WinByACompleteRun() {
+    TestGame game;
+    game.Home.Order = RuleCode::DownSuit;
+    game.Ext.GameType = GameType::CompleteRuns;
+    game.Ext.cDisAutoPlay = true;
+    game.Goal.Piles = 1;
+    mPosition::Begin(game);
+    mPosition::Lay(Goal, 0, "AH-KH");
+    mPosition::Lay(Goal, 1, "AS-KS");
+    mPosition::Lay(Goal, 2, "AD-KD");
+    mPosition::Lay(Home, 0, "KC-2C");
+    mPosition::Lay(Home, 2, "AC");
+    mPosition::DragTo(Card("AC"), Home, 0);
+}
+
+void WinByTheStock() {
+    TestGame game;
+    game.Stock.StockMove = StockMove::OneToEachPile;
+    mPosition::Begin(game);
+    mPosition::Lay(Goal, 0, "AH-KH");
+    mPosition::Lay(Goal, 1, "AS-KS");
+    mPosition::Lay(Goal, 2, "AD-KD");
+    mPosition::Lay(Goal, 3, "AC-TC");
+    mPosition::Lay(Stock, 0, "(JC) (KC) (QC)");
+    mPosition::Press(Card("QC"));
+}
+
+// The deal is rearranged when its last card lies: what is left goes up in the first autoplay pass.
+int dealtCards = 0;
+cArray::AfterMove afterMove = nullptr;
+
+void RearrangeTheDeal(bool autoplay) {
+    constexpr int KlondikeDeal = 52 + 28;  // cards to the stock, and from it to the tableau
+    if (++dealtCards == KlondikeDeal) {
+        gArray->Init(gData->Figures.CurGNo);
+        for (int PicID = 0; PicID < 52; ++PicID) PicBack.SetLoc(PicID, Res, 20, 0);
+        mPosition::Lay(Goal, 0, "AH-KH");
+        mPosition::Lay(Goal, 1, "AS-KS");
+        mPosition::Lay(Goal, 2, "AD-KD");
+        mPosition::Lay(Goal, 3, "AC-JC");
+        mPosition::Lay(Home, 3, "KC QC");
+        gArray->OnMoved = afterMove;
+    }
+    afterMove(autoplay);
+}
+
+void WinByTheFirstPass() {
+    gData->Set(Setting::Autoplay, 1);
+    dealtCards = 0;
+    afterMove = gArray->OnMoved;
+    gArray->OnMoved = RearrangeTheDeal;
+    mGen::StartGame("Klondike", 1.0);
+}
+
+// The deal that stands is the one of its number, whole, with no more than its first autoplay pass made.
+void ExpectFreshDeal() {
+    ASSERT_TRUE(gData->Figures.GameRunning);
+    EXPECT_EQ(mChecks::TableFault(), "");
+    EXPECT_FALSE(gDrag.gPicked);
+    EXPECT_EQ(gRedealCount, 0);
+    EXPECT_FALSE(gTrans->RedoPossible());
+    for (int i = 1; i <= gTrans->MaxTrans(); ++i) EXPECT_EQ(gTrans->Record(i).DCell, Goal);
+    mMain::UndoAll(0);
+    const std::vector<CardPlace> found = mChecks::Places();
+    mGen::AsideGame aside;
+    const std::string name = gData->Figures.CurGName;
+    const GameNumber number = gData->Figures.CurGNo;
+    aside.Deal(name, number);
+    EXPECT_EQ(mChecks::Difference(mChecks::Places(), found, [](int) { return false; }), "");
+}
+
+struct Win {
+    const char* Name;
+    void (*Play)();
+};
+
+std::ostream& operator<<(std::ostream& out, const Win& win) { return out << win.Name; }
+
+class Winning : public testing::TestWithParam<Win> {
+protected:
+    // The game of the position counts as this one.
+    void SetUp() override { gData->SetCurGName("Canfield"); }
+    Engine engine_;
+};
+
+TEST_P(Winning, IsRecordedOnceAndTheNextGameIsWhole) {
+    MemoryForms& forms = engine_.Layer.Forms;
+    int round = 0;
+    for (const AfterGame choice :
+         {AfterGame::NewGame, AfterGame::RestartGame, AfterGame::SelectGame, AfterGame::Nothing}) {
+        SCOPED_TRACE(static_cast<int>(choice));
+        ++round;
+        if (gData->Figures.GameRunning) mMain::CloseGame();
+        const int recorded = gScore->SesTop();
+        const cTrans* log = nullptr;
+        forms.Choice = choice;
+        forms.OnFinish = [&] {
+            // Behind the open dialog the timers go on.
+            log = gTrans.get();
+            EXPECT_FALSE(gData->Figures.GameRunning);
+            EXPECT_EQ(gScore->SesTop(), recorded + 1);
+            for (const std::string& text : mMain::TickTime()) EXPECT_EQ(text, "");
+            EXPECT_FALSE(mMain::UpdateMenus().Undo);
+            mMain::TickReplay();
+            mMain::Undo(0);
+            mMain::StockClick();
+            EXPECT_EQ(gTrans.get(), log);
+        };
+        GetParam().Play();
+        EXPECT_EQ(forms.Finished, round);
+        ASSERT_EQ(gScore->SesTop(), recorded + 1);
+        EXPECT_EQ(gScore->GetSes(recorded + 1).Won, 1);
+        EXPECT_EQ(forms.SelectShown, choice == AfterGame::SelectGame || round > 3 ? 1 : 0);
+        if (choice == AfterGame::NewGame || choice == AfterGame::RestartGame) {
+            ExpectFreshDeal();
+        } else {
+            EXPECT_FALSE(gData->Figures.GameRunning);
+            EXPECT_EQ(gTrans.get(), log) << "the log is kept until the next game";
+            EXPECT_FALSE(PicBack.PicCards(0).Visible);
+        }
+        gData->SetCurGName("Canfield");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Ways, Winning,
+                         testing::Values(Win{"ByDrag", WinByDrag}, Win{"ByAutoplay", WinByAutoplay},
+                                         Win{"ByRedo", WinByRedo}, Win{"ByRedoAll", WinByRedoAll},
+                                         Win{"ByReplay", WinByReplay},
+                                         Win{"BySwitchingAutoplayOn", WinBySwitchingAutoplayOn},
+                                         Win{"ByACompleteRun", WinByACompleteRun},
+                                         Win{"ByTheStock", WinByTheStock},
+                                         Win{"ByTheFirstPass", WinByTheFirstPass}),
+                         [](const auto& way) { return std::string(way.param.Name); });
+
+TEST(CardsToWin, IsWhatTheFoundationsHold) {
+    struct Row {
+        GameType Type;
+        int Piles;
+        int Deck;
+        int Cards;
+    };
+    const Engine engine;
+    for (const Row& row : {Row{GameType::Plain, 4, 52, 52}, Row{GameType::Plain, 8, 104, 104},
+                           Row{GameType::Plain, 4, 104, 52}, Row{GameType::Plain, 2, 26, 26},
+                           Row{GameType::CompleteRuns, 1, 104, 104}, Row{GameType::LimitedRuns, 2, 52, 26}}) {
+        TestGame game;
+        game.Ext.GameType = row.Type;
+        game.Ext.Cards = row.Deck;
+        game.Goal.Piles = row.Piles;
+        mPosition::Begin(game);
+        EXPECT_EQ(mGen::CardsToWin(), row.Cards);
+    }
+    mGen::SetGameRules("Marathon");
+    EXPECT_LT(mGen::CardsToWin(), gGames->TotalCards());
+    EXPECT_EQ(mGen::CardsToWin(), 13 * gGames->Piles(Goal));
+}
+
+// The card that completes smaller foundations wins, and no card before it.
+TEST(CardsToWin, AGameWithCardsLeftOverIsWon) {
+    Engine engine;
+    gData->Set(Setting::Autoplay, 0);
+    TestGame game;
+    game.Goal.Piles = 1;
+    mPosition::Begin(game);
+    mPosition::Lay(Goal, 0, "AH-JH");
+    mPosition::Lay(Home, 0, "2C KH QH");
+    mPosition::DragTo(Card("QH"), Goal, 0);
+    EXPECT_TRUE(gData->Figures.GameRunning);
+    mPosition::DragTo(Card("KH"), Goal, 0);
+    EXPECT_EQ(engine.Layer.Forms.Finished, 1);
+}
+
+// The dialog shows the figures of the last tick; a negative score is drawn as none.
+TEST(Finish, ShowsTheFiguresOfTheGame) {
+    Engine engine;
+    LayAllButOne({});
+    gData->SetCurGName("Klondike");
+    gData->Figures.CurGNo = std::string("007");
+    gData->Figures.CurTime = 3723;
+    gData->Figures.CurMoves = 12;
+    gData->Figures.CurScore = -5;
+    mPosition::DragTo(Card("KC"), Goal, 3);
+    const FinishSummary& summary = engine.Layer.Forms.Last;
+    EXPECT_EQ(summary.GameName, "Klondike");
+    const std::vector<std::string> lines = {" Game : 007", " Player : Player1", " Time : 1:02:03",
+                                            " Moves : 12", " Score : -5"};
+    EXPECT_EQ(summary.Lines, lines);
+    EXPECT_EQ(summary.Score, 0);
+    EXPECT_EQ(summary.Moves, 12);
+    EXPECT_EQ(summary.Seconds, 3723);
+    EXPECT_EQ(engine.Layer.Sounds.Played.back(), "WIN");
+}
+
+}  // namespace

@@ -1,0 +1,142 @@
+// Settings: defaults, what a damaged store gives, players, the recent list.
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "records/mPlayers.h"
+#include "shell/cData.h"
+#include "shell/mSelect.h"
+#include "support/Fixture.h"
+
+namespace {
+
+class Settings : public testing::Test {
+protected:
+    std::string& Stored(const std::string& key) { return engine_.Layer.Settings.Values[key]; }
+    Engine engine_;
+};
+
+TEST_F(Settings, Defaults) {
+    struct Row {
+        const NumberSetting& Setting;
+        const char* Key;
+        int Default;
+        int Other;  // a value inside the range
+    };
+    // clang-format off
+    const Row rows[] = {
+        {Setting::Autoplay,      "Autoplay",      1,    0},        {Setting::CustomColor,   "CustomColor", 128, 16777215},
+        {Setting::ShowToolbar,   "ShowToolbar",   1,    0},        {Setting::CardSpeed,     "CardSpeed",   5,   50},
+        {Setting::UndoSpeed,     "UndoSpeed",     5,    0},        {Setting::UndoallSpeed,  "UndoallSpeed", 2,  50},
+        {Setting::ReplaySpeed,   "ReplaySpeed",   7,    1},        {Setting::SoundStart,    "SoundStart",  -1,  0},
+        {Setting::SoundCardDown, "SoundCardDown", 0,   -1},        {Setting::SoundCardUp,   "SoundCardUp", 0,   -1},
+        {Setting::SoundUndo,     "SoundUndo",    -1,    0},        {Setting::SoundRedo,     "SoundRedo",   -1,  0},
+        {Setting::SoundAutoPlay, "SoundAutoPlay", -1,   0},        {Setting::SoundWin,      "SoundWin",    -1,  0},
+        {Setting::ShowTime,      "ShowTime",      1,    0},        {Setting::ShowScore,     "ShowScore",   1,   0},
+        {Setting::ShowMoves,     "ShowMoves",     1,    0},        {Setting::BGIndex,       "BGIndex",     1007, 1025},
+        {Setting::RangeIndex,    "RangeIndex",    15,   0},        {Setting::DeckIndex,     "DeckIndex",   531, 501},
+        {Setting::TvIndex,       "TvIndex",       1,    2},        {Setting::Fade,          "Fade",        1,   0},
+    };
+    // clang-format on
+    EXPECT_EQ(std::size(rows), 22U);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Key);
+        const std::string key = std::string("Data/") + row.Key;
+        EXPECT_FALSE(engine_.Layer.Settings.Values.contains(key)) << "a default is not written";
+        EXPECT_EQ(gData->Get(row.Setting), row.Default);
+        gData->Set(row.Setting, row.Other);
+        EXPECT_EQ(Stored(key), std::to_string(row.Other));
+        EXPECT_EQ(gData->Get(row.Setting), row.Other);
+        for (const char* damaged :
+             {"", " ", "x", "1x", "1.5", "0x1", "99999999999999999999", "16777216", "-2"}) {
+            Stored(key) = damaged;
+            EXPECT_EQ(gData->Get(row.Setting), row.Default) << '"' << damaged << '"';
+        }
+    }
+}
+
+TEST_F(Settings, TheLastGameIsOneOfTheCatalogue) {
+    EXPECT_EQ(gData->LastGName(), "Baker's Dozen");
+    gData->SetCurGName("Spider");
+    EXPECT_EQ(Stored("Data/LastGName"), "Spider");
+    EXPECT_EQ(gData->LastGName(), "Spider");
+    Stored("Data/LastGName") = "A game of another version";
+    EXPECT_EQ(gData->LastGName(), "Baker's Dozen");
+}
+
+TEST_F(Settings, Players) {
+    EXPECT_EQ(gData->TotalPlayers(), 1);
+    EXPECT_EQ(Stored("Users/1"), "Player1");
+    EXPECT_EQ(Stored("Users/100"), "Player1");
+    gData->SetPlayer(3, "Ann", true);
+    gData->SetPlayer(20, "Zoe", false);
+    EXPECT_EQ(gData->TotalPlayers(), 3) << "a free slot ends nothing";
+    EXPECT_EQ(gData->CurPlayer(), "Ann");
+    EXPECT_EQ(gData->GetPlayer(2), "");
+    const std::vector<std::string> shown = {"Player1", "Ann"};
+    EXPECT_EQ(mPlayers::Names(), shown) << "slots 1 to the count";
+}
+
+TEST(FirstRun, AStoredPlayerIsKept) {
+    MemoryLayer layer;
+    layer.Settings.Values["Users/4"] = "Zoe";
+    cData data(layer.Layer());
+    EXPECT_EQ(data.TotalPlayers(), 1);
+    EXPECT_EQ(data.CurPlayer(), "");
+}
+
+TEST_F(Settings, RecentList) {
+    const auto recent = [] {
+        std::string text;
+        for (int i = 1; i <= 5; ++i) text += gData->GetRecent(i) + '|';
+        return text;
+    };
+    EXPECT_EQ(gData->RecentCount(), 0);
+    for (const char* name : {"A", "A", "B", "A"}) gData->SetRecent(name);
+    EXPECT_EQ(recent(), "A|B|A|||");
+    EXPECT_EQ(gData->RecentCount(), 3);
+    for (const char* name : {"C", "D", "E"}) gData->SetRecent(name);
+    EXPECT_EQ(recent(), "E|D|C|A|B|");
+    gData->ClearRecent();
+    EXPECT_EQ(gData->RecentCount(), 0);
+    EXPECT_EQ(Stored("Recent/1"), "");
+}
+
+TEST_F(Settings, FoldersAndIdentity) {
+    EXPECT_EQ(gData->ProdName(), "Tarnival 2004 11.0");
+    EXPECT_EQ(gData->Version(), "11.0");
+    EXPECT_EQ(gData->HelpFile(), "tarnival.chm");
+    EXPECT_EQ(gData->AppCompDir(), "/data/Kelmor/");
+    EXPECT_EQ(gData->AppDir(), "/data/Kelmor/Tarnival 2004 11.0/");
+}
+
+TEST_F(Settings, TypedNumbersAndTheirRange) {
+    EXPECT_EQ(mSelect::RangeText(), "0 and 999,999,999,999,999");
+    gData->Set(Setting::RangeIndex, 3);
+    EXPECT_EQ(mSelect::RangeText(), "0 and 999");
+    for (const char* good : {"1", "998", "12.5", " 7 "}) EXPECT_FALSE(mSelect::NumberFault(good)) << good;
+    for (const char* bad : {"", "x", "0", "-1", "999", "1000"}) {
+        EXPECT_EQ(mSelect::NumberFault(bad), "Please enter a number between 0 and 999") << bad;
+    }
+}
+
+TEST_F(Settings, SoundsPlayWhereTheyAreOn) {
+    std::vector<std::string>& played = engine_.Layer.Sounds.Played;
+    const auto plays = [&](const char* key) {
+        played.clear();
+        gData->PlaySound(key);
+        return !played.empty();
+    };
+    EXPECT_TRUE(plays("Start")) << "also before the game runs";
+    EXPECT_FALSE(plays("Win"));
+    gData->Figures.GameRunning = true;
+    EXPECT_TRUE(plays("Win"));
+    EXPECT_FALSE(plays("CardUp"));
+    Stored("Data/SoundCardUp") = "1";
+    EXPECT_FALSE(plays("CardUp")) << "only -1 is on";
+    EXPECT_FALSE(plays("No such sound"));
+    gData->Figures.GameRunning = false;
+}
+
+}  // namespace

@@ -1,0 +1,115 @@
+// The behaviour of all games in one number: a fixed player plays a fixed deal of each, and every position
+// is folded into a hash. It tells that something changed; the other tests tell what. Whoever changes it
+// on purpose says in the commit which rule it was.
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "rules/mFunc.h"
+#include "rules/mPlay.h"
+#include "shell/cData.h"
+#include "state/cArray.h"
+#include "state/cGames.h"
+#include "state/cTrans.h"
+#include "state/mGen.h"
+#include "support/Fixture.h"
+#include "table/cPlate.h"
+#include "table/mMain.h"
+
+namespace {
+
+class Hash {
+public:
+    void Fold(int value) {
+        value_ = (value_ ^ static_cast<std::uint32_t>(value)) * 1099511628211U;
+        value_ ^= value_ >> 29;
+    }
+    void FoldPosition() {
+        Fold(gData->Figures.GameRunning ? 1 : 0);
+        Fold(gTrans->GetTransID());
+        Fold(gGoalBase);
+        Fold(gGames->EmptyNum);
+        Fold(Number(gGames->StockNum));
+        Fold(gRedealCount);
+        for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
+            const CardRecord& card = PicBack.PicCards(PicID);
+            for (const int value :
+                 {card.Cell, card.Pile, card.Pos, card.FaceMode, card.Left, card.Top, card.MainPic}) {
+                Fold(value);
+            }
+        }
+    }
+    [[nodiscard]] std::uint64_t Value() const { return value_; }
+
+private:
+    std::uint64_t value_ = 14695981039346656037U;
+};
+
+// A card and where to; a press on the stock or a click on its mark have no card.
+struct Action {
+    int PicID = -1;
+    int Cell = Stock;
+    int Pile = 0;
+};
+
+std::vector<Action> LegalActions() {
+    std::vector<Action> actions;
+    for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
+        int above = 0;
+        if (!PicBack.PicCards(PicID).Visible || !mFunc::CanLift(PicID, above)) continue;
+        const int Cell = mFunc::CardCell(PicID);
+        const int Pile = mFunc::CardPile(PicID);
+        for (int p = 0; p < gGames->Piles(Home); ++p) {
+            if (mFunc::HomeAccepts(PicID, Cell, Pile, p)) actions.push_back({PicID, Home, p});
+        }
+        for (int p = 0; p < gGames->Piles(Res); ++p) {
+            if (mFunc::ResAccepts(p, above)) actions.push_back({PicID, Res, p});
+        }
+        for (int p = 0; p < gGames->Piles(Goal); ++p) {
+            if (mFunc::GoalAccepts(PicID, p, above)) actions.push_back({PicID, Goal, p});
+        }
+    }
+    if (gArray->GetTop(Stock) >= 0 ? gGames->StockType() != StockType::Open
+                                   : gGames->StockNum == StockNum::Redeal) {
+        actions.push_back({});
+    }
+    return actions;
+}
+
+void Make(const Action& action) {
+    if (action.PicID >= 0) {
+        mPosition::DragTo(action.PicID, action.Cell, action.Pile);
+    } else if (gArray->GetTop(Stock) >= 0) {
+        mPosition::Press(gArray->GetTopPicID(Stock));
+    } else {
+        mMain::StockClick();
+    }
+}
+
+TEST(Signature, OfAllGames) {
+    constexpr int Actions = 80;
+    constexpr int UndoEvery = 7;
+    Engine engine;
+    Hash hash;
+    std::uint64_t choice = 2004;
+    long moves = 0;
+    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) {
+        mGen::StartGame(gData->GetGame(SiD), SiD * 7.0);
+        hash.FoldPosition();
+        for (int step = 1; step <= Actions && gData->Figures.GameRunning; ++step) {
+            const std::vector<Action> actions = LegalActions();
+            if (actions.empty()) break;
+            choice = choice * 6364136223846793005U + 1442695040888963407U;
+            Make(actions[static_cast<std::size_t>((choice >> 33) % actions.size())]);
+            if (step % UndoEvery == 0) mMain::Undo(0);
+            hash.FoldPosition();
+        }
+        moves += gTrans->GetTransID();
+    }
+    EXPECT_GT(moves, gData->TotalGames() * 20) << "the player hardly moves";
+    EXPECT_EQ(hash.Value(), 13619338685583794656U);
+}
+
+}  // namespace

@@ -1,0 +1,255 @@
+// The shuffle, and the one operation that moves cards.
+#include <algorithm>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "rules/mFunc.h"
+#include "shell/cData.h"
+#include "state/cArray.h"
+#include "state/cTrans.h"
+#include "state/mRandom.h"
+#include "support/Fixture.h"
+#include "table/cPlate.h"
+#include "table/mMain.h"
+
+namespace {
+
+using mPosition::Card;
+
+std::vector<int> Shuffled(int cards, const GameNumber& number) {
+    TestGame game;
+    game.Ext.Cards = cards;
+    gGames->Ext(game.Ext);
+    gArray->Init(number);
+    std::vector<int> values;
+    for (int PicID = 0; PicID < cards; ++PicID) values.push_back(gArray->GetRandom(PicID));
+    return values;
+}
+
+TEST(Shuffle, IsAPermutation) {
+    const Engine engine;
+    for (const int cards : {26, 52, 104}) {
+        std::set<std::vector<int>> all;
+        for (int number = 0; number < 200; ++number) {
+            std::vector<int> values = Shuffled(cards, number * 7919.0);
+            EXPECT_TRUE(all.insert(values).second) << "two numbers, one deal";
+            std::sort(values.begin(), values.end());
+            for (int i = 0; i < cards; ++i) ASSERT_EQ(values[static_cast<std::size_t>(i)], i);
+        }
+    }
+}
+
+TEST(Shuffle, GoesByTheValueOfTheNumber) {
+    const Engine engine;
+    const std::vector<int> twelve = Shuffled(52, 12.0);
+    EXPECT_EQ(Shuffled(52, 12.0), twelve);
+    EXPECT_EQ(Shuffled(52, std::string("12")), twelve);
+    EXPECT_EQ(Shuffled(52, std::string(" 012.0 ")), twelve);
+    EXPECT_NE(Shuffled(52, 12.5), twelve);
+    EXPECT_EQ(Shuffled(52, std::string("12.5")), Shuffled(52, 12.5));
+    EXPECT_NE(Shuffled(52, -12.0), twelve);
+    EXPECT_NE(Shuffled(52, 999999999999998.0), Shuffled(52, 999999999999999.0)) << "fifteen digits count";
+    EXPECT_EQ(Shuffled(52, 0.0), Shuffled(52, -0.0));
+}
+
+// Draws are rounded, so the first and the last of the cards still in hand come up half as often.
+TEST(Shuffle, RoundsItsDraws) {
+    const Engine engine;
+    constexpr int Deals = 20000;
+    int first = 0;
+    int second = 0;
+    for (int number = 1; number <= Deals; ++number) {
+        const int value = Shuffled(26, static_cast<double>(number)).front();
+        first += value == 0 ? 1 : 0;
+        second += value == 1 ? 1 : 0;
+    }
+    EXPECT_NEAR(first, Deals / 50.0, 60);
+    EXPECT_NEAR(second, Deals / 25.0, 90);
+}
+
+// A player's favourite deal must stay what it is for ever. Nothing in these rows may ever be changed.
+TEST(Shuffle, DealsNeverChange) {
+    struct Row {
+        int Cards;
+        GameNumber Number;
+        std::vector<int> Values;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {26, 1.0,
+         {6, 10, 13, 20, 18, 5, 21, 4, 22, 15, 8, 23, 11, 25, 14, 9, 17, 12, 2, 16, 3, 7, 19, 1, 0, 24}},
+        {26, 617.0,
+         {6, 3, 25, 19, 14, 13, 8, 1, 22, 2, 5, 11, 17, 10, 0, 24, 9, 12, 7, 20, 4, 18, 16, 23, 15, 21}},
+        {26, 123456789012345.0,
+         {2, 17, 22, 6, 7, 10, 4, 8, 18, 24, 1, 20, 11, 21, 0, 14, 16, 15, 25, 3, 5, 12, 19, 23, 13, 9}},
+        {26, std::string("2004"),
+         {14, 23, 4, 5, 7, 18, 16, 15, 0, 3, 2, 10, 24, 25, 8, 20, 9, 22, 13, 6, 1, 11, 17, 19, 21, 12}},
+        {52, 1.0,
+         {13, 22, 29, 44, 41, 11, 42, 46, 14, 39, 50, 37, 32, 19, 36, 31, 21, 23, 9, 40, 16, 15, 17, 49, 5, 4, 47, 28, 25, 48, 2, 3, 33, 18, 10, 30, 7, 26, 20, 38, 27, 12, 45, 24, 1, 34, 8, 35, 43, 6, 51, 0}},
+        {52, 617.0,
+         {12, 7, 13, 42, 31, 30, 19, 2, 45, 4, 49, 32, 23, 33, 44, 51, 35, 14, 40, 17, 25, 6, 15, 21, 22, 36, 10, 39, 9, 8, 29, 48, 3, 38, 24, 18, 1, 11, 37, 43, 5, 27, 26, 34, 16, 47, 20, 50, 41, 0, 46, 28}},
+        {52, 123456789012345.0,
+         {3, 36, 47, 13, 16, 24, 11, 19, 44, 22, 51, 28, 34, 21, 1, 35, 31, 5, 8, 14, 50, 48, 42, 29, 39, 17, 23, 15, 2, 18, 27, 12, 9, 41, 37, 45, 32, 38, 43, 26, 30, 49, 40, 6, 25, 7, 4, 10, 46, 20, 0, 33}},
+        {52, std::string("2004"),
+         {30, 48, 8, 11, 15, 42, 38, 37, 1, 49, 6, 29, 12, 32, 25, 9, 34, 21, 17, 31, 41, 7, 0, 45, 44, 43, 28, 47, 14, 19, 13, 27, 16, 22, 3, 24, 20, 51, 33, 50, 18, 35, 2, 46, 26, 10, 5, 36, 4, 40, 23, 39}},
+        {104, 1.0,
+         {26, 44, 59, 92, 87, 23, 100, 98, 30, 99, 51, 86, 74, 45, 97, 76, 93, 101, 24, 81, 42, 41, 49, 48, 13, 79, 67, 55, 72, 36, 8, 10, 34, 69, 83, 66, 31, 18, 16, 50, 103, 56, 94, 64, 6, 61, 7, 21, 102, 29, 53, 90, 75, 37, 80, 77, 89, 71, 25, 88, 0, 58, 20, 9, 5, 82, 62, 38, 17, 22, 65, 43, 47, 85, 84, 46, 32, 15, 78, 70, 91, 57, 52, 73, 12, 4, 95, 27, 40, 35, 2, 54, 60, 39, 11, 28, 68, 63, 19, 1, 96, 33, 14, 3}},
+        {104, 617.0,
+         {23, 15, 27, 86, 65, 99, 41, 4, 42, 9, 30, 74, 53, 79, 96, 93, 100, 35, 82, 45, 66, 17, 95, 61, 83, 36, 88, 73, 29, 101, 51, 102, 11, 68, 78, 69, 6, 52, 94, 85, 28, 90, 18, 87, 92, 50, 81, 43, 70, 71, 103, 54, 32, 47, 64, 10, 19, 14, 22, 16, 97, 40, 62, 91, 8, 12, 59, 25, 49, 24, 20, 34, 21, 2, 44, 13, 58, 80, 77, 60, 0, 5, 38, 84, 98, 33, 72, 3, 39, 63, 26, 67, 55, 31, 46, 75, 48, 89, 76, 37, 1, 56, 7, 57}},
+        {104, 123456789012345.0,
+         {6, 73, 97, 28, 33, 50, 23, 42, 96, 49, 7, 64, 79, 98, 3, 85, 77, 12, 22, 37, 83, 34, 62, 63, 14, 51, 72, 46, 103, 81, 17, 45, 82, 86, 4, 48, 74, 88, 43, 89, 54, 55, 19, 95, 102, 18, 90, 41, 94, 16, 8, 27, 31, 0, 101, 59, 38, 5, 35, 30, 68, 20, 76, 100, 53, 26, 87, 57, 70, 66, 25, 9, 71, 69, 40, 65, 91, 15, 10, 93, 29, 67, 84, 61, 56, 13, 32, 75, 92, 44, 52, 24, 78, 80, 1, 47, 99, 60, 2, 11, 58, 39, 36, 21}},
+        {104, std::string("2004"),
+         {60, 98, 16, 22, 31, 90, 83, 82, 2, 18, 15, 67, 27, 77, 61, 100, 84, 53, 44, 81, 93, 19, 0, 17, 73, 4, 20, 49, 46, 63, 85, 21, 58, 62, 13, 70, 26, 35, 80, 59, 32, 96, 65, 57, 6, 91, 86, 92, 34, 5, 50, 52, 75, 54, 25, 23, 10, 7, 29, 28, 68, 101, 47, 24, 42, 11, 41, 94, 48, 88, 55, 36, 14, 40, 38, 8, 74, 45, 33, 3, 89, 56, 95, 97, 51, 78, 43, 1, 99, 12, 66, 87, 103, 72, 76, 102, 30, 64, 39, 37, 9, 71, 69, 79}},
+    };
+    // clang-format on
+    const Engine engine;
+    for (const Row& row : rows) {
+        EXPECT_EQ(Shuffled(row.Cards, row.Number), row.Values)
+            << row.Cards << " cards, " << mGameNumber::Text(row.Number);
+    }
+}
+
+TEST(Rounding, TiesGoToTheEvenNumber) {
+    struct Row {
+        double Value;
+        int Rounded;
+    };
+    for (const Row& row : {Row{0.5, 0}, Row{1.5, 2}, Row{2.5, 2}, Row{-0.5, 0}, Row{-1.5, -2}, Row{-2.5, -2},
+                           Row{2.4999, 2}, Row{2.5001, 3}, Row{-2.5001, -3}, Row{7.0, 7}}) {
+        EXPECT_EQ(RoundToEven(row.Value), row.Rounded) << row.Value;
+    }
+}
+
+class MoveCard : public testing::Test {
+protected:
+    void SetUp() override { gData->Set(Setting::Autoplay, 0); }
+    Engine engine_;
+};
+
+TEST_F(MoveCard, AGroupMovesWhole) {
+    mPosition::Begin({});
+    mPosition::Lay(Home, 0, "(9D) KH QS JD");
+    mPosition::Lay(Home, 1, "2C");
+    gArray->MoveCard(Card("KH"), Home, 1, 1, tMod::Play, 1, 2);
+    EXPECT_EQ(mPosition::Pile(Home, 1), "2C KH QS JD");
+    EXPECT_EQ(mPosition::Pile(Home, 0), "9D");
+    EXPECT_EQ(gArray->GetTop(Home, 1), 3);
+    EXPECT_EQ(gArray->GetPicID(Home, 0, 1), -1);
+    EXPECT_EQ(PicBack.PicCards(Card("JD")).Top, 2200 + 3 * 250);
+    EXPECT_EQ(gTrans->Record(1).tMod, tMod::Uncover);
+    EXPECT_EQ(gTrans->Record(1).mCards, 2);
+}
+
+TEST_F(MoveCard, WhatUncovers) {
+    struct Row {
+        const char* Why;
+        int Cell;
+        const char* Pile;
+        const char* Card;
+        tMod Kind;
+        tMod Logged;
+        const char* Left;
+    };
+    const Row rows[] = {
+        {"a closed card below opens", Home, "(9D) 5C", "5C", tMod::Play, tMod::Uncover, "9D"},
+        {"an open card below", Home, "9D 5C", "5C", tMod::Play, tMod::Play, "9D"},
+        {"the last card of a pile", Home, "5C", "5C", tMod::Play, tMod::Play, ""},
+        {"a card going back to the stock", Home, "(9D) 5C", "5C", tMod::ToStock, tMod::Uncover, "9D"},
+        {"only the tableau", Stock, "(9D) (5C)", "5C", tMod::FromStock, tMod::FromStock, "(9D)"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Why);
+        mPosition::Begin({});
+        mPosition::Lay(row.Cell, 0, row.Pile);
+        gArray->MoveCard(Card(row.Card), Home, 2, 0, row.Kind);
+        EXPECT_EQ(mPosition::Pile(row.Cell, 0), row.Left);
+        EXPECT_EQ(gTrans->Record(1).tMod, row.Logged);
+    }
+    // Undo and repositioning open nothing and are not logged.
+    for (const tMod kind : {tMod::UndoRedo, tMod::Reposition}) {
+        mPosition::Begin({});
+        mPosition::Lay(Home, 0, "(9D) 5C");
+        gArray->MoveCard(Card("5C"), Home, 2, 0, kind);
+        EXPECT_EQ(mFunc::CardFaceMode(Card("9D")), 1);
+        EXPECT_EQ(gTrans->MaxTrans(), 0);
+        EXPECT_EQ(gArray->GetTop(Home, 0), kind == tMod::UndoRedo ? 0 : 1)
+            << "repositioning leaves the tops alone";
+    }
+}
+
+TEST_F(MoveCard, AFullFoundationRefusesInSilence) {
+    TestGame game;
+    game.Ext.Cards = 104;
+    mPosition::Begin(game);
+    mPosition::Lay(Goal, 0, "AS-KS");
+    mPosition::Lay(Home, 0, "5C AH");
+    const Point before{PicBack.PicCards(Card("AH")).Left, PicBack.PicCards(Card("AH")).Top};
+    gArray->MoveCard(Card("AH"), Goal, 0, 13);
+    EXPECT_EQ(mPosition::Pile(Home, 0), "5C AH");
+    EXPECT_EQ(PicBack.PicCards(Card("AH")).Left, before.X);
+    EXPECT_EQ(gTrans->MaxTrans(), 0);
+    game.Ext.GameType = GameType::CompleteRuns;
+    game.Ext.cDisAutoPlay = true;
+    mPosition::Begin(game);
+    mPosition::Lay(Goal, 0, "AS-KS");
+    mPosition::Lay(Home, 0, "5C AH");
+    gArray->MoveCard(Card("AH"), Goal, 0, 13);
+    EXPECT_EQ(gArray->GetTop(Goal, 0), 13);
+}
+
+// Speed counts the steps of the first card; the others jump.
+TEST_F(MoveCard, StepsOfTheAnimation) {
+    struct Row {
+        int Speed;
+        long Steps;
+    };
+    for (const Row& row : {Row{0, 0}, Row{1, 1}, Row{7, 7}}) {
+        mPosition::Begin({});
+        mPosition::Lay(Home, 0, "KH QS JD");
+        const long before = engine_.Layer.Stage.Steps;
+        gArray->MoveCard(Card("KH"), Home, 2, 0, tMod::Play, row.Speed, 2);
+        EXPECT_EQ(engine_.Layer.Stage.Steps - before, row.Steps);
+        EXPECT_EQ(PicBack.PicCards(Card("JD")).Left, 1790 + 2400);
+    }
+}
+
+TEST_F(MoveCard, AutoplayFollowsPlayedMovesOnly) {
+    struct Row {
+        tMod Kind;
+        bool Disabled;
+        bool Follows;
+    };
+    gData->Set(Setting::Autoplay, 1);
+    for (const Row& row :
+         {Row{tMod::Play, false, true}, Row{tMod::FromStock, false, true}, Row{tMod::Play, true, false},
+          Row{tMod::ToStock, false, false}, Row{tMod::UndoRedo, false, false}, Row{tMod::Deal, false, false},
+          Row{tMod::Reposition, false, false}}) {
+        mPosition::Begin({});
+        mPosition::Lay(Home, 0, "5C AS");
+        mPosition::Lay(Home, 1, "9H");
+        gArray->MoveCard(Card("9H"), Home, 2, 0, row.Kind, 0, 0, 0, row.Disabled);
+        EXPECT_EQ(gArray->GetTop(Goal, 0), row.Follows ? 0 : -1) << Number(row.Kind);
+    }
+}
+
+TEST_F(MoveCard, PlacesOutsideTheTables) {
+    mPosition::Begin({});
+    mPosition::Lay(Home, 0, "5C");
+    EXPECT_EQ(gArray->GetTop(Home, 1), -1);
+    EXPECT_THROW((void)gArray->GetTopPicID(Home, 1), std::out_of_range);
+    EXPECT_THROW((void)gArray->GetPicID(Home, 21, 0), std::out_of_range);
+    EXPECT_THROW((void)gArray->GetPicID(5, 0, 0), std::out_of_range);
+    EXPECT_THROW((void)gArray->GetPicID(Home, 0, 53), std::out_of_range);
+    EXPECT_THROW((void)gArray->GetRandom(52), std::out_of_range);
+    EXPECT_THROW((void)PicBack.PicCards(104), std::out_of_range);
+    EXPECT_EQ(gArray->GetPicID(Home, 0, 52), -1);
+    gArray->ReduceOne(Home, 0);
+    EXPECT_EQ(gArray->GetTop(Home, 0), -1);
+    EXPECT_EQ(mFunc::CardCell(Card("5C")), Home) << "its record stays";
+}
+
+}  // namespace

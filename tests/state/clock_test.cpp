@@ -1,0 +1,135 @@
+// Score, time and moves of the running game, and the texts that show them.
+#include <string>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "rules/mFunc.h"
+#include "shell/cData.h"
+#include "state/GameNumber.h"
+#include "state/cArray.h"
+#include "state/mGen.h"
+#include "support/Fixture.h"
+#include "table/cPlate.h"
+#include "table/mMain.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+TEST(Clock, FormatTime) {
+    struct Row {
+        int Seconds;
+        const char* Text;
+    };
+    for (const Row& row : {Row{0, "0:00:00"}, Row{45, "0:00:45"}, Row{59, "0:00:59"}, Row{60, "0:01:00"},
+                           Row{3599, "0:59:59"}, Row{3723, "1:02:03"}, Row{3909, "1:05:09"},
+                           Row{86399, "23:59:59"}, Row{86400, "24:00:00"}, Row{450007, "125:00:07"}}) {
+        EXPECT_EQ(mFunc::FormatTime(row.Seconds), row.Text);
+    }
+}
+
+TEST(Clock, Score) {
+    struct Row {
+        const char* Foundation;
+        int Time, Moves;
+        int Score;
+    };
+    const Engine engine;
+    // Ten a card, less one for 3 seconds, less one for 2 moves; halves to the even neighbour.
+    for (const Row& row :
+         {Row{"", 0, 0, 0}, Row{"", 30, 10, -15}, Row{"", 15, 0, -5}, Row{"AH-4H", 0, 0, 40},
+          Row{"AH-KH", 9, 4, 125}, Row{"", 0, 1, 0}, Row{"", 0, 3, -2}, Row{"AH", 0, 3, 8},
+          Row{"AH", 0, 1, 10}, Row{"", 1, 0, 0}, Row{"", 2, 0, -1}, Row{"", 2147483647, 32767, -32768}}) {
+        mPosition::Begin({});
+        mPosition::Lay(Goal, 0, row.Foundation);
+        gData->Figures.CurTime = row.Time;
+        gData->Figures.CurMoves = row.Moves;
+        EXPECT_EQ(mGen::CalcScore(), row.Score) << row.Foundation << ' ' << row.Time << ' ' << row.Moves;
+    }
+    gData->Figures.GameRunning = false;
+    EXPECT_EQ(mGen::CalcScore(), 0);
+}
+
+TEST(Clock, TheStoredScoreLagsOneTick) {
+    Engine engine;
+    gData->Set(Setting::Autoplay, 0);
+    mPosition::Begin({});
+    mPosition::Lay(Home, 0, "9C 2C AS");
+    engine.Layer.Calendar.Advance(30);
+    mPosition::DragTo(mPosition::Card("AS"), Goal, 0);
+    EXPECT_THAT(mMain::TickTime(), ElementsAre("Score :10", "Time :0:00:30", "Moves :1"));
+    EXPECT_EQ(gData->Figures.CurScore, 10);
+    EXPECT_EQ(gData->Figures.CurTime, 30);
+    EXPECT_EQ(gData->Figures.CurMoves, 1);
+    EXPECT_THAT(mMain::TickTime(), ElementsAre("Score :0", "Time :0:00:30", "Moves :1"));
+    mMain::Undo(0);
+    engine.Layer.Calendar.Advance(0.9);
+    EXPECT_THAT(mMain::TickTime(), ElementsAre("Score :-10", "Time :0:00:30", "Moves :0"));
+    engine.Layer.Calendar.Advance(3600);
+    EXPECT_EQ(mMain::TickTime()[1], "Time :1:00:30");
+    // Set back behind the start, the clock shows none.
+    engine.Layer.Calendar.Advance(-7200);
+    EXPECT_EQ(mMain::TickTime()[1], "Time :0:00:00");
+}
+
+// The clock counts from the second that the start shows to the second that is shown now.
+TEST(Clock, SecondsBetweenTheTwoTexts) {
+    Engine engine;
+    engine.Layer.Calendar.Advance(0.6);
+    mGen::StartGame("Klondike", 1.0);
+    engine.Layer.Calendar.Advance(0.3);
+    EXPECT_EQ(mFunc::ElapsedSecs(), 0);
+    engine.Layer.Calendar.Advance(0.2);
+    EXPECT_EQ(mFunc::ElapsedSecs(), 1);
+}
+
+TEST(Clock, OnlyWhatThePlayerWantsIsShown) {
+    Engine engine;
+    mGen::StartGame("Klondike", 1.0);
+    engine.Layer.Calendar.Advance(7);
+    gData->Set(Setting::ShowTime, 0);
+    EXPECT_EQ(mMain::TickTime()[1], "");
+    EXPECT_EQ(gData->Figures.CurTime, 7);
+    gData->Set(Setting::ShowScore, 0);
+    gData->Set(Setting::ShowMoves, 0);
+    EXPECT_THAT(mMain::TickTime(), ElementsAre("", "", ""));
+    gData->Set(Setting::ShowTime, 1);
+    EXPECT_THAT(mMain::TickTime(), ElementsAre("", "Time :0:00:07", ""));
+    mMain::CloseGame();
+    EXPECT_THAT(mMain::TickTime(), ElementsAre("", "", ""));
+    EXPECT_EQ(gData->Figures.CurTime, 7) << "the figures of the ended game stay";
+}
+
+TEST(GameNumbers, ParseAndText) {
+    struct Row {
+        const char* Typed;
+        bool Good;
+        double Value;
+    };
+    for (const Row& row :
+         {Row{"12", true, 12}, Row{" 12 ", true, 12}, Row{"012", true, 12}, Row{"12.5", true, 12.5},
+          Row{"-3", true, -3}, Row{"+3", true, 3}, Row{"999999999999999", true, 999999999999999.0},
+          Row{"", false, 0}, Row{"  ", false, 0}, Row{"twelve", false, 0}, Row{"1,234", false, 0},
+          Row{"12x", false, 0}, Row{"1e5", false, 0}, Row{"inf", false, 0}, Row{"nan", false, 0}}) {
+        const auto value = mGameNumber::Parse(row.Typed);
+        EXPECT_EQ(value.has_value(), row.Good) << '"' << row.Typed << '"';
+        if (row.Good) {
+            EXPECT_EQ(value.value_or(-1), row.Value) << row.Typed;
+        }
+    }
+    EXPECT_EQ(mGameNumber::Text(999999999999999.0), "999999999999999");
+    EXPECT_EQ(mGameNumber::Text(1e15), "1000000000000000");
+    EXPECT_EQ(mGameNumber::Text(std::string("007")), "007");
+    EXPECT_EQ(mGameNumber::Text(12.5), "12.5");
+    // Never with an exponent, which could not be read again.
+    EXPECT_EQ(mGameNumber::Text(1e21), "1000000000000000000000");
+    EXPECT_EQ(mGameNumber::Text(1e-7), "0.0000001");
+    EXPECT_EQ(mGameNumber::Value(std::string("x")), 0.0);
+    EXPECT_EQ(mFunc::Grouped(999), "999");
+    EXPECT_EQ(mFunc::Grouped(1000), "1,000");
+    EXPECT_EQ(mFunc::Grouped(-123456), "-123,456");
+    EXPECT_EQ(mFunc::Grouped(999999999999999.0), "999,999,999,999,999");
+}
+
+}  // namespace

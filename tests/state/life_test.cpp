@@ -1,0 +1,298 @@
+// The life of a game: start, restart, abandoning, commands during a deal, and setting a game aside.
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "records/cScore.h"
+#include "rules/mFunc.h"
+#include "rules/mPlay.h"
+#include "shell/cData.h"
+#include "shell/mSelect.h"
+#include "state/cArray.h"
+#include "state/cTrans.h"
+#include "state/mGen.h"
+#include "support/Checks.h"
+#include "support/Fixture.h"
+#include "support/RandomPlayer.h"
+#include "table/cPlate.h"
+#include "table/mMain.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::string Difference(const std::vector<CardPlace>& expected) {
+    return mChecks::Difference(expected, mChecks::Places(), [](int) { return false; });
+}
+
+class Life : public testing::Test {
+protected:
+    Engine engine_;
+};
+
+TEST_F(Life, StartsOnAnEmptyTable) {
+    EXPECT_EQ(engine_.Layer.Forms.Caption, "Tarnival 2004 11.0");
+    EXPECT_FALSE(gData->Figures.GameRunning);
+    EXPECT_EQ(gData->SesStartTime, "2004-01-01 00:00:00");
+    EXPECT_EQ(gData->CurPlayer(), "Player1");
+    EXPECT_TRUE(engine_.Layer.Files.Exists("/data/Kelmor/"));
+    EXPECT_TRUE(engine_.Layer.Files.Exists("/data/Kelmor/Tarnival 2004 11.0/"));
+    EXPECT_THAT(engine_.Layer.Forms.Recent, ElementsAre("", "", "", "", ""));
+    // Nothing to be done without a game.
+    mMain::Undo(1);
+    mMain::StockClick();
+    mMain::CloseGame();
+    mMain::RestartGame();
+    mMain::RecentGame(1);
+    mMain::ReplayAll();
+    mMain::TickReplay();
+    EXPECT_FALSE(gData->Figures.GameRunning);
+    EXPECT_EQ(gScore->SesTop(), 0);
+    EXPECT_EQ(mMain::ReplayState(), mMain::Replay::Stopped);
+}
+
+TEST_F(Life, TheFirstNewGameIsTheFirstOfTheCatalogue) {
+    mMain::NewGame();
+    EXPECT_EQ(gData->Figures.CurGName, "Baker's Dozen");
+    const double number = mGameNumber::Value(gData->Figures.CurGNo);
+    EXPECT_GE(number, 1.0);
+    EXPECT_LT(number, 1e15);
+    gData->Set(Setting::RangeIndex, 0);
+    mMain::NewGame();
+    EXPECT_EQ(mGameNumber::Value(gData->Figures.CurGNo), 1.0);
+    gData->Set(Setting::RangeIndex, 1);
+    for (int i = 0; i < 50; ++i) {
+        engine_.Layer.Calendar.Advance(0.5);
+        mMain::NewGame();
+        EXPECT_GE(mGameNumber::Value(gData->Figures.CurGNo), 1.0);
+        EXPECT_LE(mGameNumber::Value(gData->Figures.CurGNo), 9.0);
+    }
+}
+
+TEST_F(Life, SameNameAndNumberSameTable) {
+    gData->Set(Setting::Autoplay, 0);
+    mGen::StartGame("Klondike", 5.0);
+    mMain::UndoAll(0);
+    const std::vector<CardPlace> deal = mChecks::Places();
+    EXPECT_EQ(engine_.Layer.Forms.Caption, "Tarnival 2004 11.0 [Klondike] [Player1] [5]");
+    EXPECT_EQ(gData->Figures.GameStartTime, "2004-01-01 00:00:00");
+    mPosition::Press(gArray->GetTopPicID(Stock));
+    engine_.Layer.Calendar.Advance(100);
+    mMain::TickTime();
+    mMain::RestartGame();
+    EXPECT_EQ(gData->Figures.GameStartTime, "2004-01-01 00:01:40");
+    mMain::UndoAll(0);
+    EXPECT_EQ(Difference(deal), "");
+    // The abandoned game counts as lost, with what it had reached.
+    ASSERT_EQ(gScore->SesTop(), 1);
+    EXPECT_EQ(gScore->GetSes(1).Won, 0);
+    EXPECT_EQ(gScore->GetSes(1).Time, 100);
+    EXPECT_EQ(gScore->GetSes(1).Moves, 1);
+    mGen::StartGame("Klondike", std::string("5"));
+    mMain::UndoAll(0);
+    EXPECT_EQ(Difference(deal), "");
+    EXPECT_EQ(gScore->SesTop(), 2);
+    mMain::CloseGame();
+    EXPECT_EQ(gScore->SesTop(), 3);
+    EXPECT_FALSE(gData->Figures.GameRunning);
+    for (int PicID = 0; PicID < MaxCards; ++PicID) EXPECT_FALSE(PicBack.PicCards(PicID).Visible);
+    EXPECT_FALSE(PicBack.Mark(MarkKind::Stock, 0).Visible);
+    EXPECT_EQ(engine_.Layer.Forms.Caption, "Tarnival 2004 11.0 [Klondike] [Player1] [5]") << "still shown";
+}
+
+TEST_F(Life, AGameLeavesNothingToTheNext) {
+    mGen::StartGame("Carre Napoleon", 3.0);
+    mMain::UndoAll(0);
+    const std::vector<CardPlace> alone = mChecks::Places();
+    const cGames definition = *gGames;
+    for (const char* other : {"Spider", "Canfield", "Klondike", "Stripped Klondike"}) {
+        mGen::StartGame(other, 1.0);
+        RandomPlayer player(7);
+        for (int i = 0; i < 100 && gData->Figures.GameRunning; ++i) player.Act();
+        mGen::StartGame("Carre Napoleon", 3.0);
+        EXPECT_EQ(gRedealCount, 0);
+        mMain::UndoAll(0);
+        EXPECT_EQ(Difference(alone), "") << "after " << other;
+        EXPECT_TRUE(*gGames == definition);
+    }
+}
+
+TEST_F(Life, AnUnknownNameStartsNothing) {
+    mGen::StartGame("Klondike", 5.0);
+    const std::vector<CardPlace> before = mChecks::Places();
+    for (const char* name : {"", "klondike", "No such game"}) {
+        mGen::StartGame(name, 5.0);
+        EXPECT_EQ(Difference(before), "");
+        EXPECT_EQ(gData->Figures.CurGName, "Klondike");
+        EXPECT_EQ(gData->GetRecent(1), "Klondike");
+        EXPECT_EQ(gScore->SesTop(), 0);
+    }
+    mSelect::Play("Ann", "No such game");
+    EXPECT_THAT(engine_.Layer.Forms.Messages, ElementsAre("There is no game \"No such game\"."));
+    EXPECT_EQ(gData->CurPlayer(), "Player1");
+    EXPECT_EQ(Difference(before), "");
+}
+
+// The deal lets window events run: whatever comes then must not touch it.
+TEST_F(Life, CommandsDuringADealAreIgnored) {
+    for (const char* game : {"Klondike", "Spider", "Freecell", "Mobile Gallery"}) {
+        SCOPED_TRACE(game);
+        mGen::StartGame(game, 8.0);
+        mMain::UndoAll(0);
+        const std::vector<CardPlace> deal = mChecks::Places();
+        const int ended = gScore->SesTop();
+        int events = 0;
+        engine_.Layer.Stage.OnEvents = [&] {
+            ++events;
+            EXPECT_TRUE(mGen::Dealing());
+            EXPECT_FALSE(gData->Figures.GameRunning);
+            mMain::NewGame();
+            mMain::RestartGame();
+            mMain::CloseGame();
+            mMain::RecentGame(1);
+            mGen::StartGame("Fan", 1.0);
+            mSelect::Play("Ann", "Fan");
+            mSelect::PlayNumber("Ann", "Fan", "3");
+            mMain::MouseDown(events % 52, 10, 10);
+            mMain::MouseMove(events % 52, 500, 500);
+            mMain::MouseUp(events % 52);
+            mMain::StockClick();
+            mMain::UndoAll(0);
+            mMain::RedoAll(0);
+            mMain::FlipAutoplay();
+            mMain::FlipAutoplay();
+            mMain::TickReplay();
+            EXPECT_THAT(mMain::TickTime(), ElementsAre("", "", ""));
+            EXPECT_FALSE(mMain::UpdateMenus().GameRunning);
+        };
+        mMain::RestartGame();
+        engine_.Layer.Stage.OnEvents = nullptr;
+        EXPECT_GE(events, 52);
+        EXPECT_FALSE(mGen::Dealing());
+        EXPECT_EQ(gData->Figures.CurGName, game);
+        EXPECT_EQ(gScore->SesTop(), ended + 1);
+        EXPECT_EQ(gData->CurPlayer(), "Player1");
+        mMain::UndoAll(0);
+        EXPECT_EQ(Difference(deal), "");
+        EXPECT_EQ(mChecks::TableFault(), "");
+    }
+}
+
+// The player whom the selection names gets the game that it abandons.
+TEST_F(Life, SelectingForAnotherPlayer) {
+    mSelect::PlayNumber("", "Klondike", "12");
+    mSelect::PlayNumber("Ann", "Spider", "13");
+    EXPECT_EQ(gScore->GetSes(1).Player, "Ann");
+    EXPECT_EQ(gScore->GetSes(1).gName, "Klondike");
+    EXPECT_EQ(std::get<std::string>(gScore->GetSes(1).GameNo), "12") << "kept as typed";
+    EXPECT_EQ(engine_.Layer.Forms.Caption, "Tarnival 2004 11.0 [Spider] [Ann] [13]");
+}
+
+TEST_F(Life, RecentGames) {
+    for (const char* game :
+         {"Klondike", "Klondike", "Spider", "Klondike", "Fan", "Fan", "Freecell", "Spider"}) {
+        mGen::StartGame(game, 1.0);
+    }
+    const std::vector<std::string> recent = {"Spider", "Freecell", "Fan", "Klondike", "Spider"};
+    EXPECT_EQ(engine_.Layer.Forms.Recent, recent);
+    EXPECT_EQ(gData->LastGName(), "Spider");
+    mMain::RecentGame(3);
+    EXPECT_EQ(gData->Figures.CurGName, "Fan");
+    EXPECT_EQ(engine_.Layer.Forms.Recent.front(), "Fan");
+    EXPECT_EQ(engine_.Layer.Forms.Recent.back(), "Klondike");
+}
+
+// While the running game is set aside other deals are computed; put back, it is as it was, and nothing
+// of them shows in the records, the settings or the sounds.
+TEST_F(Life, SetAsideAndPutBack) {
+    for (const char* game : {"Klondike", "Spider", "Carre Napoleon", "Penguin", ""}) {
+        SCOPED_TRACE(game);
+        if (*game) {
+            mGen::StartGame(game, 21.0);
+            RandomPlayer player(3);
+            for (int i = 0; i < 150 && gData->Figures.GameRunning; ++i) player.Act();
+        } else {
+            mMain::CloseGame();
+        }
+        const bool running = gData->Figures.GameRunning;
+        ASSERT_EQ(running, *game != '\0');
+        // A card hangs on the mouse meanwhile.
+        if (running) mMain::MouseDown(gArray->GetPicID(Home, 0, gArray->GetTop(Home, 0)), 5, 5);
+        mMain::TickTime();
+        const cGames games = *gGames;
+        const cArray array = *gArray;
+        const cTrans trans = *gTrans;
+        const cPlate plate = PicBack;
+        const SessionFigures figures = gData->Figures;
+        const int redeals = gRedealCount;
+        const int base = gGoalBase;
+        const bool picked = gDrag.gPicked;
+        const auto settings = engine_.Layer.Settings.Values;
+        const auto files = engine_.Layer.Files.Contents;
+        const long moves = engine_.Layer.Stage.Moves;
+        const std::vector<std::string> sounds = engine_.Layer.Sounds.Played;
+        const int ended = gScore->SesTop();
+        {
+            mGen::AsideGame aside;
+            EXPECT_FALSE(gData->Figures.GameRunning);
+            for (const char* other : {"Canfield", "Stripped Klondike", "Spider", "La Belle Lucie"}) {
+                aside.Deal(other, 4.0);
+                EXPECT_EQ(mChecks::TableFault(), "") << other;
+            }
+        }
+        EXPECT_TRUE(*gGames == games);
+        EXPECT_TRUE(*gArray == array);
+        EXPECT_TRUE(*gTrans == trans);
+        EXPECT_TRUE(PicBack == plate);
+        EXPECT_EQ(PicBack.Stage(), &engine_.Layer.Stage);
+        EXPECT_EQ(gData->Figures.GameRunning, running);
+        EXPECT_EQ(gData->Figures.CurGName, figures.CurGName);
+        EXPECT_EQ(gData->Figures.CurGNo, figures.CurGNo);
+        EXPECT_EQ(gData->Figures.GameStart, figures.GameStart);
+        EXPECT_EQ(gData->Figures.CurScore, figures.CurScore);
+        EXPECT_EQ(gRedealCount, redeals);
+        EXPECT_EQ(gGoalBase, base);
+        EXPECT_EQ(gDrag.gPicked, picked);
+        EXPECT_EQ(engine_.Layer.Settings.Values, settings);
+        EXPECT_EQ(engine_.Layer.Files.Contents, files);
+        EXPECT_EQ(engine_.Layer.Stage.Moves, moves) << "nothing moved on the screen";
+        EXPECT_EQ(engine_.Layer.Sounds.Played, sounds);
+        EXPECT_EQ(gScore->SesTop(), ended);
+        mMain::CancelDrag();
+        if (running) {
+            EXPECT_EQ(mChecks::TableFault(), "");
+        }
+    }
+}
+
+TEST_F(Life, CommandStates) {
+    mMain::CommandStates states = mMain::UpdateMenus();
+    EXPECT_TRUE(states.Toolbar && states.AutoplayChecked && states.AutoplayEnabled);
+    EXPECT_FALSE(states.GameRunning || states.Undo || states.Redo || states.Stop);
+    mGen::StartGame("Spider", 1.0);
+    states = mMain::UpdateMenus();
+    EXPECT_TRUE(states.GameRunning && states.AutoplayChecked);
+    EXPECT_FALSE(states.AutoplayEnabled || states.Undo || states.Redo || states.ReplayAll);
+    mPosition::Press(gArray->GetTopPicID(Stock));
+    states = mMain::UpdateMenus();
+    EXPECT_TRUE(states.Undo && states.Back && states.ReplayAll);
+    EXPECT_FALSE(states.Redo || states.Forward);
+    mMain::Undo(0);
+    states = mMain::UpdateMenus();
+    EXPECT_TRUE(states.Redo && states.Forward && states.ReplayAll);
+    EXPECT_FALSE(states.Undo || states.Back);
+    mMain::ReplayForward();
+    mMain::TickReplay();
+    states = mMain::UpdateMenus();
+    EXPECT_TRUE(states.Stop);
+    EXPECT_FALSE(states.Undo || states.Redo || states.ReplayAll);
+    mMain::TickReplay();  // nothing left to be made again
+    states = mMain::UpdateMenus();
+    EXPECT_FALSE(states.Stop);
+    EXPECT_TRUE(states.Undo);
+}
+
+}  // namespace

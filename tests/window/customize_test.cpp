@@ -1,0 +1,320 @@
+// The dialog "Customize": what acts at once, what waits for OK, what its previews show.
+#include <gmock/gmock.h>
+
+#include <QAbstractButton>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QImage>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTreeWidget>
+
+#include "Art.h"
+#include "DialogTest.h"
+#include "records/cScore.h"
+#include "shell/frmCustomize.h"
+#include "shell/mAssets.h"
+#include "table/cPlate.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class PaintedForms : public MemoryForms {
+public:
+    int Painted = 0;
+    void PaintBackground() override { ++Painted; }
+};
+
+class Customize : public DialogTest {
+protected:
+    void SetUp() override {
+        mLoad::Main({layer_.Stage, layer_.Settings, layer_.Files, layer_.Calendar, layer_.Sounds, forms_,
+                     layer_.Help});
+        mGen::InitApp();
+        forms_.Painted = 0;
+        gData->SetCurGName("Klondike");  // what the engine itself writes at a start is there before
+    }
+    static void ShowTab(const QDialog& dialog, int tab) {
+        Find<QTabWidget>(dialog, "SSTab1")->setCurrentIndex(tab);
+    }
+    /// Clicks the node of that text under a tree, opening what it lies in.
+    static void ClickNode(const QDialog& dialog, const char* tree, const char* text) {
+        auto* nodes = Find<QTreeWidget>(dialog, tree);
+        for (QTreeWidgetItemIterator it(nodes); *it; ++it) {
+            if ((*it)->text(0) != QLatin1String(text)) continue;
+            ClickRow(nodes, nodes->indexFromItem(*it));
+            return;
+        }
+        FAIL() << "no node " << text;
+    }
+    [[nodiscard]] static QImage Look(const QDialog& dialog, const char* preview) {
+        return Find<QWidget>(dialog, preview)->grab().toImage();
+    }
+    [[nodiscard]] static QColor Middle(const QImage& image, double height) {
+        return image.pixelColor(image.width() / 4, static_cast<int>(image.height() * height));
+    }
+
+    PaintedForms forms_;
+};
+
+TEST_F(Customize, TheTreesListWhatThePicturesHave) {
+    std::vector<int> numbers;
+    const std::function<void(const mCustomize::Node&)> walk = [&](const mCustomize::Node& node) {
+        if (node.Tag != 0) numbers.push_back(node.Tag);
+        for (const mCustomize::Node& child : node.Children) walk(child);
+    };
+    const mCustomize::Node backgrounds = mCustomize::Backgrounds();
+    walk(backgrounds);
+    ASSERT_EQ(numbers.size(), 1u + 20u + 33u);
+    for (const int number : numbers) {
+        const QImage tile = Art::Tile(number);
+        EXPECT_EQ(tile.isNull(), mCustomize::CanFade(number)) << number;
+    }
+    EXPECT_EQ(backgrounds.Text, "Backgrounds");
+    const auto& colors = backgrounds.Children.at(0);
+    EXPECT_EQ(colors.Text, "Colors");
+    EXPECT_EQ(colors.Children.at(0).Text, "Custom Color");
+    EXPECT_EQ(colors.Children.at(0).Tag, 1000);
+    EXPECT_EQ(colors.Children.at(7).Text, "Dark Green");
+    EXPECT_EQ(colors.Children.at(7).Tag, 1007);
+    EXPECT_EQ(colors.Children.at(20).Text, "Purple");
+    EXPECT_EQ(backgrounds.Children.at(1).Children.at(0).Text, "Bricks 01");
+    EXPECT_EQ(backgrounds.Children.at(8).Children.at(2).Text, "Wood 03");
+    EXPECT_EQ(backgrounds.Children.at(8).Children.at(2).Tag, 73);
+
+    numbers.clear();
+    walk(mCustomize::Decks());
+    EXPECT_THAT(numbers,
+                ElementsAre(501, 502, 503, 511, 512, 521, 522, 523, 531, 532, 533, 541, 542, 543, 544));
+    for (const int number : numbers) {
+        EXPECT_FALSE(Art::Picture(QStringLiteral("backs/%1").arg(number), 1.0).isNull()) << number;
+    }
+    EXPECT_EQ(mCustomize::Decks().Children.at(1).Children.at(1).Text, "Garden 02");
+    EXPECT_EQ(mAssets::GetCol(1025)->Color, 255 + 256 * 99 + 65536 * 71);
+    EXPECT_EQ(mAssets::GetCol(1026), nullptr);
+}
+
+TEST_F(Customize, SomeControlsActAtOnceWhateverCancelDoes) {
+    struct Row {
+        const char* Control;
+        const NumberSetting& Setting;
+    };
+    const Row rows[] = {
+        {"chkTime", Setting::ShowTime}, {"chkScore", Setting::ShowScore}, {"chkMoves", Setting::ShowMoves}};
+    for (const int before : {1, 0}) {
+        frmCustomize dialog;
+        Open(dialog);
+        for (const Row& row : rows) {
+            SCOPED_TRACE(row.Control);
+            EXPECT_EQ(gData->Get(row.Setting), before);
+            EXPECT_EQ(Find<QAbstractButton>(dialog, row.Control)->isChecked(), before == 1);
+            QTest::keyClick(Find<QWidget>(dialog, row.Control), Qt::Key_Space);
+            EXPECT_EQ(gData->Get(row.Setting), 1 - before);
+        }
+        Click(dialog, "cmdCancel");
+        for (const Row& row : rows) EXPECT_EQ(gData->Get(row.Setting), 1 - before);
+    }
+    frmCustomize dialog;
+    Open(dialog);
+    auto* range = Find<QComboBox>(dialog, "imcRange");
+    ASSERT_EQ(range->count(), 15);
+    EXPECT_EQ(range->itemText(3), QStringLiteral("9,999"));
+    EXPECT_EQ(range->currentText(), QStringLiteral("999,999,999,999,999"));
+    QTest::keyClick(range, Qt::Key_Home);
+    EXPECT_EQ(gData->Get(Setting::RangeIndex), 1);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_EQ(gData->Get(Setting::RangeIndex), 1);
+}
+
+TEST_F(Customize, TheRecentGamesAreClearedAfterTheirQuestion) {
+    {
+        frmCustomize dialog;
+        EXPECT_FALSE(Enabled(dialog, "cmdClearRecent")) << "there is nothing to clear";
+    }
+    gData->SetRecent("Klondike");
+    frmCustomize dialog;
+    Open(dialog);
+    Click(dialog, "cmdClearRecent");
+    EXPECT_EQ(gData->RecentCount(), 1);
+    EXPECT_TRUE(Enabled(dialog, "cmdClearRecent"));
+    EXPECT_THAT(forms_.Messages, IsEmpty());
+    forms_.Answer = true;
+    Click(dialog, "cmdClearRecent");
+    EXPECT_EQ(gData->RecentCount(), 0);
+    EXPECT_FALSE(Enabled(dialog, "cmdClearRecent"));
+    EXPECT_THAT(forms_.Questions, testing::Each("Are you sure you want to clear the Recent Games List ?"));
+    EXPECT_THAT(forms_.Messages, ElementsAre("Recent Games List has been Cleared."));
+}
+
+TEST_F(Customize, StatisticsAreExportedAndClearedFromHere) {
+    mGen::StartGame("Klondike", 1.0);
+    mGen::CloseGame(0);
+    frmCustomize dialog;
+    Open(dialog);
+    forms_.SaveFile = "/data/out.txt";
+    Click(dialog, "cmdExportStat");
+    EXPECT_TRUE(layer_.Files.Exists("/data/out.txt"));
+    forms_.Answer = true;
+    Click(dialog, "cmdClearStat");
+    EXPECT_FALSE(layer_.Files.Exists(cScore::FileName("Player1")));
+}
+
+/// Changes every working value of an open dialog.
+class CustomizeChanged : public Customize {
+protected:
+    static void ChangeAll(const QDialog& dialog) {
+        ShowTab(dialog, 1);
+        ClickNode(dialog, "tvBGround", "Crimson");
+        Click(dialog, "chkFade");
+        ShowTab(dialog, 2);
+        ClickNode(dialog, "tvDeck", "Nature 04");
+        ShowTab(dialog, 3);
+        for (int i = 1; i <= 4; ++i) {
+            const std::string name = "Slider" + std::to_string(i);
+            QTest::keyClick(Find<QSlider>(dialog, name.c_str()), Qt::Key_End);
+            QTest::keyClick(Find<QSlider>(dialog, name.c_str()), Qt::Key_PageDown);
+            QTest::keyClick(Find<QSlider>(dialog, name.c_str()), Qt::Key_Left, Qt::NoModifier, i);
+        }
+        auto* sounds = Find<QTreeWidget>(dialog, "lvSound");
+        ASSERT_EQ(sounds->topLevelItemCount(), 7);
+        for (int row = 0; row < 7; ++row) {
+            sounds->setCurrentItem(sounds->topLevelItem(row));
+            QTest::keyClick(sounds, Qt::Key_Space);
+        }
+    }
+};
+
+TEST_F(CustomizeChanged, NothingElseIsWrittenBeforeOK) {
+    mGen::StartGame("Klondike", 1.0);
+    const auto settings = layer_.Settings.Values;
+    const cPlate plate = PicBack;
+    for (const bool byKey : {false, true}) {
+        frmCustomize dialog;
+        Open(dialog);
+        ChangeAll(dialog);
+        EXPECT_TRUE(layer_.Settings.Values == settings);
+        if (byKey) {
+            QTest::keyClick(&dialog, Qt::Key_Escape);
+        } else {
+            Click(dialog, "cmdCancel");
+        }
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_TRUE(layer_.Settings.Values == settings);
+    }
+    EXPECT_TRUE(PicBack == plate);
+    EXPECT_EQ(forms_.Painted, 0);
+}
+
+TEST_F(CustomizeChanged, OKWritesAllAndChangesTheTableOnly) {
+    mGen::StartGame("Klondike", 1.0);
+    cPlate expected = PicBack;
+    expected.SetStage(nullptr);
+    for (int PicID = 0; PicID < MaxCards; ++PicID) expected.SetDeckPic(PicID, 544);
+    frmCustomize dialog;
+    Open(dialog);
+    ChangeAll(dialog);
+    Click(dialog, "cmdOK");
+    EXPECT_FALSE(dialog.isVisible());
+    const auto value = [&](const char* key) { return layer_.Settings.Values["Data/" + std::string(key)]; };
+    for (const char* speed : {"CardSpeed", "UndoSpeed", "UndoallSpeed", "ReplaySpeed"}) {
+        EXPECT_EQ(value(speed), "44") << speed << ": one large and one small step from the end";
+    }
+    for (const char* on : {"SoundCardUp", "SoundCardDown"}) EXPECT_EQ(value(on), "-1") << on;
+    for (const char* off : {"SoundStart", "SoundAutoPlay", "SoundUndo", "SoundRedo", "SoundWin"}) {
+        EXPECT_EQ(value(off), "0") << off;
+    }
+    EXPECT_EQ(value("BGIndex"), "1005");
+    EXPECT_EQ(value("Fade"), "0");
+    EXPECT_EQ(value("CustomColor"), "128");
+    EXPECT_EQ(value("DeckIndex"), "544");
+    EXPECT_EQ(forms_.Painted, 1);
+    EXPECT_TRUE(PicBack == expected) << "the cards have the new back, and nothing else has changed";
+    EXPECT_TRUE(gData->Figures.GameRunning);
+}
+
+TEST_F(Customize, ColorsEnableWhatTheyHaveAUseFor) {
+    struct Row {
+        int Stored;
+        bool Custom;
+        bool Fade;
+        const char* Selected;
+    };
+    const Row rows[] = {
+        {1000, true, true, "Custom Color"}, {1007, false, true, "Dark Green"},
+        {1020, false, true, "Purple"},      {1023, false, true, ""},
+        {63, false, false, "Water 03"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Stored);
+        gData->Set(Setting::BGIndex, row.Stored);
+        frmCustomize dialog;
+        Open(dialog);
+        ShowTab(dialog, 1);
+        EXPECT_EQ(Enabled(dialog, "cmdCustom"), row.Custom);
+        EXPECT_EQ(Enabled(dialog, "chkFade"), row.Fade);
+        EXPECT_EQ(Selected(Find<QTreeWidget>(dialog, "tvBGround")), row.Selected);
+        const QImage shown = Look(dialog, "Picture1");
+        // A group keeps the background and needs neither control; its members need their own.
+        ClickNode(dialog, "tvBGround", "Colors");
+        EXPECT_FALSE(Enabled(dialog, "cmdCustom"));
+        EXPECT_FALSE(Enabled(dialog, "chkFade"));
+        EXPECT_EQ(Look(dialog, "Picture1"), shown);
+        ClickNode(dialog, "tvBGround", "Custom Color");
+        EXPECT_TRUE(Enabled(dialog, "cmdCustom"));
+        EXPECT_TRUE(Enabled(dialog, "chkFade"));
+        ClickNode(dialog, "tvBGround", "Wood 02");
+        EXPECT_FALSE(Enabled(dialog, "cmdCustom"));
+        EXPECT_FALSE(Enabled(dialog, "chkFade"));
+    }
+}
+
+TEST_F(Customize, ThePreviewsFollowBothTabs) {
+    frmCustomize dialog;
+    Open(dialog);
+    ShowTab(dialog, 1);
+    const QImage before = Look(dialog, "Picture1");
+    EXPECT_EQ(Middle(before, 0.02), QColor(0, 98, 0)) << "dark green above";
+    EXPECT_LT(Middle(before, 0.97).green(), 6) << "black below";
+    Click(dialog, "chkFade");
+    EXPECT_EQ(Middle(Look(dialog, "Picture1"), 0.97), QColor(0, 100, 0));
+    EXPECT_EQ(Middle(Look(dialog, "picDeckBack"), 0.97), QColor(0, 100, 0)) << "under the deck, too";
+    ShowTab(dialog, 2);
+    const QImage deck = Look(dialog, "PicDeck");
+    ClickNode(dialog, "tvDeck", "Flowers 02");
+    EXPECT_NE(Look(dialog, "PicDeck"), deck);
+    const QImage chosen = Look(dialog, "PicDeck");
+    ClickNode(dialog, "tvDeck", "Flowers");
+    EXPECT_EQ(Look(dialog, "PicDeck"), chosen) << "a group shows no deck of its own";
+}
+
+TEST_F(Customize, TheColorDialogsOwnColorCountsHoweverItIsLeft) {
+    gData->Set(Setting::BGIndex, 1000);
+    gData->Set(Setting::Fade, 0);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    frmCustomize dialog;
+    Open(dialog);
+    ShowTab(dialog, 1);
+    EXPECT_EQ(Middle(Look(dialog, "Picture1"), 0.5), QColor(128, 0, 0));
+    const auto leave = [&](const QColor& color, bool accept) {
+        OnModal([=](QWidget& opened) {
+            auto& colors = dynamic_cast<QColorDialog&>(opened);
+            colors.setCurrentColor(color);
+            accept ? colors.accept() : colors.reject();
+        });
+        Click(dialog, "cmdCustom");
+    };
+    const QColor teal(10, 120, 130);
+    leave(Qt::white, false);
+    EXPECT_EQ(Middle(Look(dialog, "Picture1"), 0.5), QColor(Qt::black)) << "black the first time";
+    leave(teal, true);
+    EXPECT_EQ(Middle(Look(dialog, "Picture1"), 0.5), teal);
+    leave(Qt::white, false);
+    EXPECT_EQ(Middle(Look(dialog, "Picture1"), 0.5), teal);
+    EXPECT_EQ(gData->Get(Setting::CustomColor), 128);
+    Click(dialog, "cmdOK");
+    EXPECT_EQ(gData->Get(Setting::CustomColor), 10 + 256 * 120 + 65536 * 130);
+}
+
+}  // namespace

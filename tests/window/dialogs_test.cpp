@@ -1,0 +1,512 @@
+// The dialogs as the player meets them: what they show, what keys and clicks do, what they start.
+#include <array>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAbstractItemModel>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPixmap>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QtTest/QTest>
+
+#include "DialogTest.h"
+#include "records/cScore.h"
+#include "records/frmFinish.h"
+#include "rules/mPlay.h"
+#include "shell/cData.h"
+#include "shell/frmChoose.h"
+#include "shell/frmSelect.h"
+#include "shell/mSelect.h"
+#include "state/cArray.h"
+#include "state/cGames.h"
+#include "state/cTrans.h"
+#include "state/frmHistory.h"
+#include "state/mGen.h"
+#include "state/mLoad.h"
+#include "table/cPlate.h"
+#include "table/mMain.h"
+#include "table/memorylayer.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+enum Tab { All, Groups, Original };
+
+class Dialogs : public DialogTest {
+protected:
+    [[nodiscard]] static QTreeWidget* Tree(const QDialog& dialog) {
+        return qobject_cast<QTreeWidget*>(Find<QTabWidget>(dialog, "SSTab1")->currentWidget());
+    }
+    [[nodiscard]] static std::string Selected(const QDialog& dialog) {
+        const QTreeWidgetItem* item = Tree(dialog)->currentItem();
+        return item ? item->text(0).toStdString() : "";
+    }
+    static void ShowTab(const QDialog& dialog, Tab tab) {
+        Find<QTabWidget>(dialog, "SSTab1")->setCurrentIndex(tab);
+    }
+    static void SelectNode(const QDialog& dialog, const char* text, bool group = false) {
+        for (QTreeWidgetItemIterator it(Tree(dialog)); *it; ++it) {
+            const bool isGame = (*it)->data(0, Qt::UserRole).isValid();
+            if ((*it)->text(0) != QLatin1String(text) || isGame == group) continue;
+            Tree(dialog)->setCurrentItem(*it);
+            return;
+        }
+        FAIL() << "no node " << text;
+    }
+    static void DoubleClick(QTreeWidget* tree, const QTreeWidgetItem* item) {
+        tree->scrollToItem(item);
+        const QPoint place = tree->visualItemRect(item).center();
+        QTest::mouseClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+        QTest::mouseDClick(tree->viewport(), Qt::LeftButton, Qt::NoModifier, place);
+    }
+    [[nodiscard]] static std::string Text(const QDialog& dialog, const char* label) {
+        return Find<QLabel>(dialog, label)->text().toStdString();
+    }
+    [[nodiscard]] static bool Playing(const std::string& game) {
+        return gData->Figures.GameRunning && gData->Figures.CurGName == game;
+    }
+};
+
+TEST_F(Dialogs, SelectListsEveryGameInThreeWays) {
+    frmSelect dialog;
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Tarnival 2004 11.0"));
+    const auto root = [&](const char* tree) { return Find<QTreeWidget>(dialog, tree)->topLevelItem(0); };
+    const std::array<const char*, 3> trees{"tvwAll", "tvwGroups", "tvwOrg"};
+    const std::array<const char*, 3> names{"All Games", "Game Groups", "Original Games"};
+    int originals = 0;
+    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) originals += gData->IsOriginal(SiD) ? 1 : 0;
+    const std::array<int, 3> children{gData->TotalGames(), gData->TotalGroups(), originals};
+    for (std::size_t i = 0; i < trees.size(); ++i) {
+        EXPECT_EQ(root(trees[i])->text(0), QLatin1String(names[i]));
+        EXPECT_EQ(root(trees[i])->childCount(), children[i]);
+        EXPECT_TRUE(root(trees[i])->isExpanded());
+    }
+    for (const char* tree : {"tvwAll", "tvwOrg"}) {
+        for (int i = 1; i < root(tree)->childCount(); ++i) {
+            EXPECT_LT(
+                root(tree)->child(i - 1)->text(0).compare(root(tree)->child(i)->text(0), Qt::CaseInsensitive),
+                0)
+                << i;
+        }
+    }
+    int SiD = 0;
+    for (int group = 0; group < 11; ++group) {
+        const QTreeWidgetItem* node = root("tvwGroups")->child(group);
+        EXPECT_EQ(node->text(0).toStdString(), gData->GroupfromGiD(group + 1));
+        EXPECT_FALSE(node->data(0, Qt::UserRole).isValid());
+        for (int i = 0; i < node->childCount(); ++i)
+            EXPECT_EQ(node->child(i)->data(0, Qt::UserRole).toInt(), ++SiD);
+    }
+    EXPECT_EQ(SiD, gData->TotalGames());
+}
+
+// A preview is a deal of its own, computed while another game runs.
+TEST_F(Dialogs, PreviewsOfAllGamesLeaveTheRunningGameAlone) {
+    gData->Set(Setting::TvIndex, All);
+    mGen::StartGame("Klondike", 21.0);
+    mMain::MouseDown(gArray->GetTopPicID(Stock), 5, 5);
+    layer_.Calendar.Advance(7);
+    mMain::TickTime();
+    const cGames games = *gGames;
+    const cArray array = *gArray;
+    const cTrans trans = *gTrans;
+    const cPlate plate = PicBack;
+    const SessionFigures figures = gData->Figures;
+    const std::array<int, 4> counters{gRedealCount, gGoalBase, figures.CurMoves, figures.CurTime};
+    const auto settings = layer_.Settings.Values;
+
+    frmSelect dialog;
+    const auto* preview = Find<QLabel>(dialog, "imgPick");
+    auto* tree = Find<QTreeWidget>(dialog, "tvwAll");
+    std::set<qint64> pictures;
+    qint64 last = 0;
+    for (int i = 0; i < tree->topLevelItem(0)->childCount(); ++i) {
+        tree->setCurrentItem(tree->topLevelItem(0)->child(i));
+        const QPixmap picture = preview->pixmap(Qt::ReturnByValue);
+        ASSERT_EQ(picture.deviceIndependentSize().toSize(), preview->size()) << i;
+        pictures.insert(last = picture.cacheKey());
+    }
+    EXPECT_EQ(pictures.size(), static_cast<std::size_t>(gData->TotalGames()));
+    EXPECT_TRUE(*gGames == games);
+    EXPECT_TRUE(*gArray == array);
+    EXPECT_TRUE(*gTrans == trans);
+    EXPECT_TRUE(PicBack == plate);
+    EXPECT_TRUE(gData->Figures.GameRunning);
+    EXPECT_EQ((std::array<int, 4>{gRedealCount, gGoalBase, gData->Figures.CurMoves, gData->Figures.CurTime}),
+              counters);
+    EXPECT_EQ(gData->Figures.GameStart, figures.GameStart);
+    EXPECT_EQ(layer_.Settings.Values, settings);
+    // A root keeps the last game in sight.
+    tree->setCurrentItem(tree->topLevelItem(0));
+    EXPECT_EQ(preview->pixmap(Qt::ReturnByValue).cacheKey(), last);
+}
+
+TEST_F(Dialogs, SelectOpensOnTheLastGameTabAndPlayer) {
+    gData->SetPlayer(2, "Zoë", true);
+    gData->SetPlayer(3, "Ann", false);
+    gData->SetCurGName("Klondike");
+    gData->Set(Setting::TvIndex, All);
+    frmSelect dialog;
+    Open(dialog);
+    EXPECT_EQ(Selected(dialog), "Klondike");
+    EXPECT_EQ(Text(dialog, "lblName"), "Klondike");
+    EXPECT_EQ(Find<QComboBox>(dialog, "imcPlayer")->currentText(), QStringLiteral("Zoë"));
+    EXPECT_EQ(Find<QComboBox>(dialog, "imcPlayer")->count(), 3);
+    const QRect row = Tree(dialog)->visualItemRect(Tree(dialog)->currentItem());
+    EXPECT_TRUE(Tree(dialog)->viewport()->rect().contains(row)) << "the selection is out of sight";
+    ShowTab(dialog, Groups);
+    EXPECT_EQ(Selected(dialog), "Klondike");
+    EXPECT_EQ(Tree(dialog)->currentItem()->parent()->text(0), QStringLiteral("Klondike"));
+}
+
+TEST_F(Dialogs, TheOriginalGamesSelectTheLastGameOrTheFirstOfTheList) {
+    int original = 0;
+    int other = 0;
+    for (int SiD = gData->TotalGames(); SiD > 0; --SiD) (gData->IsOriginal(SiD) ? original : other) = SiD;
+    for (const int SiD : {original, other}) {
+        gData->SetCurGName(gData->GetGame(SiD));
+        frmSelect dialog;
+        ShowTab(dialog, Original);
+        const auto first =
+            Find<QTreeWidget>(dialog, "tvwOrg")->topLevelItem(0)->child(0)->text(0).toStdString();
+        EXPECT_EQ(Selected(dialog), SiD == original ? gData->GetGame(SiD) : first);
+        EXPECT_EQ(Text(dialog, "lblName"), Selected(dialog));
+    }
+}
+
+TEST_F(Dialogs, PlayStartsTheSelectedGameForTheChosenPlayer) {
+    gData->SetPlayer(2, "Ann", false);
+    frmSelect dialog;
+    Open(dialog);
+    ShowTab(dialog, All);
+    SelectNode(dialog, "Klondike");
+    Find<QComboBox>(dialog, "imcPlayer")->setCurrentIndex(1);
+    Click(dialog, "cmdPlay");
+    EXPECT_TRUE(Playing("Klondike"));
+    EXPECT_EQ(gData->CurPlayer(), "Ann");
+    EXPECT_EQ(gData->Get(Setting::TvIndex), All);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+}
+
+TEST_F(Dialogs, AGroupPlaysTheGameOfItsNameAndLeavesTheShownGame) {
+    gData->SetCurGName("Baker's Dozen");
+    frmSelect dialog;
+    Open(dialog);
+    ShowTab(dialog, Groups);
+    SelectNode(dialog, "Klondike", true);
+    EXPECT_EQ(Text(dialog, "lblName"), "Baker's Dozen");
+    EXPECT_TRUE(Find<QPushButton>(dialog, "cmdPlay")->isEnabled());
+    // Opening a group is no play.
+    QTreeWidgetItem* group = Tree(dialog)->currentItem();
+    const bool expanded = group->isExpanded();
+    DoubleClick(Tree(dialog), group);
+    EXPECT_NE(group->isExpanded(), expanded);
+    EXPECT_FALSE(gData->Figures.GameRunning);
+
+    QTest::keyClick(Tree(dialog), Qt::Key_Return);
+    EXPECT_TRUE(Playing("Klondike"));
+}
+
+TEST_F(Dialogs, ARootPlaysNothing) {
+    for (const Tab tab : {All, Groups, Original}) {
+        frmSelect dialog;
+        Open(dialog);
+        ShowTab(dialog, tab);
+        const std::string shown = Text(dialog, "lblName");
+        Tree(dialog)->setCurrentItem(Tree(dialog)->topLevelItem(0));
+        EXPECT_FALSE(Find<QPushButton>(dialog, "cmdPlay")->isEnabled());
+        EXPECT_EQ(Text(dialog, "lblName"), shown);
+        Tree(dialog)->setFocus();
+        QTest::keyClick(Tree(dialog), Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible());
+        // The state belongs to the tab: back on a game it is there again.
+        ShowTab(dialog, tab == All ? Groups : All);
+        EXPECT_TRUE(Find<QPushButton>(dialog, "cmdPlay")->isEnabled());
+    }
+    EXPECT_FALSE(gData->Figures.GameRunning);
+}
+
+TEST_F(Dialogs, ADoubleClickOrReturnOnAGamePlaysIt) {
+    for (const bool byKey : {false, true}) {
+        frmSelect dialog;
+        Open(dialog);
+        ShowTab(dialog, All);
+        SelectNode(dialog, byKey ? "Klondike" : "Yukon");
+        if (byKey) {
+            Tree(dialog)->setFocus();
+            QTest::keyClick(Tree(dialog), Qt::Key_Return);
+        } else {
+            DoubleClick(Tree(dialog), Tree(dialog)->currentItem());
+        }
+        EXPECT_TRUE(Playing(byKey ? "Klondike" : "Yukon"));
+        EXPECT_FALSE(dialog.isVisible());
+    }
+    // The first of the two was abandoned, and only once.
+    EXPECT_EQ(gScore->SesTop(), 1);
+}
+
+TEST_F(Dialogs, LeavingTheSelectionChangesNothing) {
+    mGen::StartGame("Klondike", 1.0);
+    gData->SetPlayer(2, "Ann", false);
+    for (const bool byKey : {false, true}) {
+        frmSelect dialog;
+        Open(dialog);
+        ShowTab(dialog, Original);
+        Find<QComboBox>(dialog, "imcPlayer")->setCurrentIndex(1);
+        if (byKey) {
+            QTest::keyClick(Tree(dialog), Qt::Key_Escape);
+        } else {
+            Click(dialog, "cmdCancel");
+        }
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_EQ(gData->Get(Setting::TvIndex), Groups);
+        EXPECT_EQ(gData->CurPlayer(), "Player1");
+        EXPECT_TRUE(Playing("Klondike"));
+    }
+}
+
+TEST_F(Dialogs, TypingFindsAGameAlsoInAClosedGroup) {
+    struct Row {
+        Tab Where;
+        const char* Typed;
+        const char* Found;
+    };
+    const Row rows[] = {
+        {All, "klon", "Klondike"},         {All, "baker's dozen t", "Baker's Dozen Two Suit"},
+        {Groups, "YUKON", "Yukon"},        {Groups, "spidercells", "Spidercells"},
+        {All, "qqqq", "Queen of Arabia"},  {All, "zo", "Zodiac"},
+        {All, "kkk", "Klondike Reversed"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Typed);
+        gData->SetCurGName("Klondike");
+        frmSelect dialog;
+        Open(dialog);
+        ShowTab(dialog, row.Where);
+        Tree(dialog)->collapseAll();
+        Tree(dialog)->setFocus();
+        QTest::keyClicks(Tree(dialog), QLatin1String(row.Typed));
+        EXPECT_EQ(Selected(dialog), row.Found);
+        EXPECT_EQ(Text(dialog, "lblName"), row.Found);
+        EXPECT_FALSE(Tree(dialog)->visualItemRect(Tree(dialog)->currentItem()).isEmpty());
+        QTest::keyClicks(Tree(dialog), QStringLiteral("#"));
+        EXPECT_EQ(Selected(dialog), row.Found) << "what no game begins with changes nothing";
+    }
+}
+
+// In the order of the catalogue longer names come before these, and one is selected from the start.
+TEST_F(Dialogs, TypingInTheNumberDialogFindsTheNameThatWasTyped) {
+    gData->SetCurGName("Klondike");
+    for (const char* name : {"Spider", "Klondike", "Fan"}) {
+        frmChoose dialog;
+        Open(dialog);
+        auto* games = Find<QComboBox>(dialog, "cmGames");
+        games->setFocus();
+        QTest::keyClicks(games, QLatin1String(name));
+        EXPECT_EQ(games->currentText(), QLatin1String(name));
+    }
+}
+
+TEST_F(Dialogs, TheNumberDialogOpensOnAGoodNumber) {
+    gData->SetCurGName("Klondike");
+    for (const int digits : {1, 6, 15}) {
+        gData->Set(Setting::RangeIndex, digits);
+        frmChoose dialog;
+        Open(dialog);
+        const auto* number = Find<QLineEdit>(dialog, "Text1");
+        EXPECT_EQ(number->selectedText(), number->text());
+        EXPECT_TRUE(number->hasFocus());
+        EXPECT_LE(number->text().size(), digits);
+        EXPECT_GT(number->text().toDouble(), 0.0);
+        EXPECT_EQ(Find<QComboBox>(dialog, "cmGames")->currentText(), QStringLiteral("Klondike"));
+        EXPECT_EQ(Find<QComboBox>(dialog, "cmGames")->count(), gData->TotalGames());
+        EXPECT_EQ(Find<QComboBox>(dialog, "cmGames")->itemText(0), QStringLiteral("Baker's Dozen"));
+        EXPECT_EQ(Find<QComboBox>(dialog, "cmPlayer")->currentText(), QStringLiteral("Player1"));
+    }
+    frmChoose dialog;
+    EXPECT_EQ(Text(dialog, "lblName"), "Enter a Game Number between");
+    EXPECT_EQ(Text(dialog, "lblRange"), "0 and 999,999,999,999,999");
+}
+
+TEST_F(Dialogs, NumbersAreTakenInsideTheRangeOnly) {
+    struct Row {
+        int Digits;
+        const char* Typed;
+        const char* Fault;  ///< nothing for a good number
+    };
+    const Row rows[] = {
+        {1, "1", nullptr},
+        {1, "8", nullptr},
+        {1, "8.75", nullptr},
+        {1, "9", "Please enter a number between 0 and 9"},
+        {1, "0", "Please enter a number between 0 and 9"},
+        {3, "-1", "Please enter a number between 0 and 999"},
+        {3, "998", nullptr},
+        {3, "999", "Please enter a number between 0 and 999"},
+        {4, "", "Please enter a number between 0 and 9,999"},
+        {4, "12a", "Please enter a number between 0 and 9,999"},
+        {4, "12", nullptr},
+        {4, "0012", nullptr},
+        {4, "0.5", nullptr},
+        {15, "999999999999998", nullptr},
+        {15, "999999999999999", "Please enter a number between 0 and 999,999,999,999,999"},
+        {15, "inf", "Please enter a number between 0 and 999,999,999,999,999"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Typed);
+        gData->Set(Setting::RangeIndex, row.Digits);
+        layer_.Forms.Messages.clear();
+        if (gData->Figures.GameRunning) mGen::CloseGame(0);
+        frmChoose dialog;
+        Open(dialog);
+        auto* number = Find<QLineEdit>(dialog, "Text1");
+        number->setText(QLatin1String(row.Typed));
+        QTest::keyClick(number, Qt::Key_Return);
+        EXPECT_EQ(gData->Figures.GameRunning, row.Fault == nullptr);
+        EXPECT_EQ(dialog.isVisible(), row.Fault != nullptr);
+        if (row.Fault) {
+            EXPECT_THAT(layer_.Forms.Messages, ElementsAre(row.Fault));
+            EXPECT_EQ(number->text(), QStringLiteral("0"));
+            EXPECT_TRUE(number->hasFocus());
+        } else {
+            EXPECT_THAT(layer_.Forms.Messages, IsEmpty());
+            EXPECT_EQ(gData->Figures.CurGNo, GameNumber(row.Typed))
+                << "the text itself goes on as the number";
+        }
+    }
+}
+
+TEST_F(Dialogs, TheNumberDialogStartsTheChosenGameForTheChosenPlayer) {
+    gData->SetPlayer(2, "Ann", false);
+    mGen::StartGame("Klondike", 1.0);
+    frmChoose dialog;
+    Open(dialog);
+    auto* games = Find<QComboBox>(dialog, "cmGames");
+    games->setCurrentIndex(games->findText(QStringLiteral("Yukon")));
+    Find<QComboBox>(dialog, "cmPlayer")->setCurrentIndex(1);
+    Find<QLineEdit>(dialog, "Text1")->setText(QStringLiteral("77"));
+    Click(dialog, "cmdSelect");
+    EXPECT_TRUE(Playing("Yukon"));
+    ASSERT_EQ(gScore->SesTop(), 1);
+    EXPECT_EQ(gScore->GetSes(1).gName, "Klondike");
+    EXPECT_EQ(gScore->GetSes(1).Player, "Ann") << "the abandoned game goes to the player just chosen";
+}
+
+TEST_F(Dialogs, ANameInNoFamilyIsToldAndChangesNothing) {
+    mGen::StartGame("Klondike", 1.0);
+    gData->SetPlayer(2, "Ann", false);
+    mSelect::Play("Ann", "All Games");
+    EXPECT_THAT(layer_.Forms.Messages, ElementsAre("There is no game \"All Games\"."));
+    EXPECT_TRUE(Playing("Klondike"));
+    EXPECT_EQ(gData->CurPlayer(), "Player1");
+    EXPECT_EQ(gScore->SesTop(), 0);
+}
+
+TEST_F(Dialogs, TheEndOfAGameOffersWhatToDoNext) {
+    const FinishSummary summary{"Klondike", {" Game : 12", " Player : Ann", " Time : 1:00:05"}, 0, 104, 3605};
+    struct Row {
+        const char* Key;
+        const char* Caption;
+        AfterGame Choice;
+        const char* Opens;  ///< a view of the records; the dialog stays behind it
+    };
+    const Row rows[] = {
+        {"New", "New Game", AfterGame::NewGame, nullptr},
+        {"Select", "Select Game", AfterGame::SelectGame, nullptr},
+        {"Restart", "Restart Game", AfterGame::RestartGame, nullptr},
+        {"Statistics", "Statistics", AfterGame::Nothing, "frmGameStat"},
+        {"Highscore", "High Score", AfterGame::Nothing, "frmHighScore"},
+        {"Close", "Close", AfterGame::Nothing, nullptr},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Key);
+        for (const bool byKey : {false, true}) {
+            frmFinish dialog(summary);
+            Open(dialog);
+            auto* button = Find<QToolButton>(dialog, row.Key);
+            EXPECT_EQ(button->text(), QLatin1String(row.Caption));
+            EXPECT_TRUE(button->isVisible());
+            if (row.Opens) {
+                OnModal([&](const QWidget& view) { EXPECT_EQ(view.objectName(), QLatin1String(row.Opens)); });
+            }
+            if (byKey) {
+                button->setFocus();
+                QTest::keyClick(button, Qt::Key_Return);
+            } else {
+                QTest::mouseClick(button, Qt::LeftButton);
+            }
+            EXPECT_EQ(dialog.isVisible(), row.Opens != nullptr);
+            EXPECT_EQ(dialog.Choice(), row.Choice);
+        }
+    }
+    frmFinish dialog(summary);
+    Open(dialog);
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Congrats"));
+    EXPECT_EQ(Find<QGroupBox>(dialog, "Frame1")->title(), QStringLiteral("Klondike"));
+    const auto* list = Find<QListWidget>(dialog, "ListView1");
+    ASSERT_EQ(list->count(), 3);
+    EXPECT_EQ(list->item(1)->text(), QStringLiteral(" Player : Ann"));
+    EXPECT_EQ(Find<QWidget>(dialog, "chFin")->accessibleDescription(),
+              QStringLiteral("Score 0, Moves 104, Time 1:00:05"));
+    // The window's own button and Escape choose nothing.
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.Choice(), AfterGame::Nothing);
+}
+
+TEST_F(Dialogs, TheHistoryMarksTheCurrentMoveAndTheUndoneOnes) {
+    mGen::StartGame("Klondike", 1.0);
+    gData->Set(Setting::Autoplay, 0);
+    const int before = gTrans->MaxTrans();
+    for (int i = 0; i < 20; ++i) mPlay::PressStock();
+    for (int i = 0; i < 5; ++i) gTrans->Undo(0);
+    ASSERT_EQ(gTrans->MaxTrans(), before + 20);
+    frmHistory dialog;
+    Open(dialog);
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Game History"));
+    const auto* view = Find<QTableView>(dialog, "lvHistory");
+    const QAbstractItemModel* model = view->model();
+    ASSERT_EQ(model->rowCount(), gTrans->MaxTrans());
+    std::vector<std::string> headings;
+    for (int column = 0; column < model->columnCount(); ++column) {
+        headings.push_back(model->headerData(column, Qt::Horizontal).toString().toStdString());
+    }
+    EXPECT_THAT(headings, ElementsAre("", "Source", "Destination", "Cards"));
+    const int current = gTrans->GetTransID() - 1;
+    for (int row = 0; row < model->rowCount(); ++row) {
+        SCOPED_TRACE(row);
+        EXPECT_EQ(model->index(row, 0).data().toInt(), row + 1);
+        for (int column = 0; column < 4; ++column) {
+            const QModelIndex index = model->index(row, column);
+            const QVariant color = index.data(Qt::ForegroundRole);
+            const QColor shown = color.value<QBrush>().color();
+            EXPECT_EQ(color.isValid(), row >= current);
+            if (color.isValid()) {
+                EXPECT_EQ(shown, row == current ? QColor(128, 0, 0) : QColor(128, 128, 0));
+            }
+            EXPECT_EQ(index.data(Qt::FontRole).value<QFont>().bold(), row == current);
+        }
+    }
+    EXPECT_EQ(model->index(current, 1).data().toString(), QStringLiteral("Stock (Pile 1, Card 10)"));
+    EXPECT_TRUE(view->viewport()->rect().intersects(view->visualRect(model->index(current, 0))));
+    EXPECT_FALSE(view->selectionModel()->hasSelection()) << "a selection would hide the colours";
+    Click(dialog, "cmdClose");
+    EXPECT_FALSE(dialog.isVisible());
+}
+
+}  // namespace

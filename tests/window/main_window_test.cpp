@@ -1,0 +1,226 @@
+// The main window through Qt's own events: dragging with real mouse events, commands' states, closing.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+
+#include "MainWindowTest.h"
+#include "records/cScore.h"
+#include "shell/cData.h"
+#include "state/cArray.h"
+#include "state/cGames.h"
+#include "state/cTrans.h"
+#include "state/mGen.h"
+
+namespace {
+
+// In deal 1 of Klondike, after the first autoplay, the waste's second card fits on the last pile.
+constexpr int FittingCard = 22;
+
+void DealOne() {
+    mGen::StartGame("Klondike", 1.0);
+    gArray->AddtoWaste(gArray->GetTopPicID(Stock));
+    gArray->AddtoWaste(gArray->GetTopPicID(Stock));
+    ASSERT_EQ(gArray->GetTopPicID(Waste), FittingCard);
+}
+
+TEST_F(MainWindow, ADragPlaysACardAndARefusedOneGoesBack) {
+    DealOne();
+    const int moves = gTrans->GetTransID();
+    const auto start = PlaceOf(FittingCard);
+    const QPoint grip = IndexOf(FittingCard);
+
+    QTest::mousePress(Viewport(), Qt::RightButton, Qt::NoModifier, grip);  // any button lifts
+    MoveMouse(grip + QPoint(0, 300), Qt::RightButton);
+    EXPECT_EQ(PlaceOf(FittingCard), std::make_pair(start.first, start.second + 300 * 15));
+    QTest::mouseRelease(Viewport(), Qt::RightButton, Qt::NoModifier, grip + QPoint(0, 300));
+    EXPECT_EQ(PlaceOf(FittingCard), start);
+    EXPECT_EQ(gTrans->GetTransID(), moves);
+
+    const int target = gArray->GetTopPicID(Home, 6);
+    QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, grip);
+    MoveMouse(IndexOf(target), Qt::LeftButton);
+    QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, IndexOf(target));
+    EXPECT_EQ(gArray->GetTopPicID(Home, 6), FittingCard);
+    EXPECT_EQ(gTrans->GetTransID(), moves + 1);
+}
+
+TEST_F(MainWindow, ASecondButtonInADragChangesNothing) {
+    DealOne();
+    const QPoint grip = IndexOf(FittingCard);
+    const QPoint target = IndexOf(gArray->GetTopPicID(Home, 6));
+    QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, grip);
+    MoveMouse(target, Qt::LeftButton);
+    const auto held = PlaceOf(FittingCard);
+    QTest::mousePress(Viewport(), Qt::RightButton, Qt::NoModifier, target);
+    QTest::mouseRelease(Viewport(), Qt::RightButton, Qt::NoModifier, target);
+    EXPECT_TRUE(gDrag.gPicked);
+    EXPECT_EQ(PlaceOf(FittingCard), held);
+    QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, target);
+    EXPECT_EQ(gArray->GetTopPicID(Home, 6), FittingCard);
+}
+
+TEST_F(MainWindow, ADragThatEndsOutsideTheWindowReturns) {
+    DealOne();
+    const auto start = PlaceOf(FittingCard);
+    const QPoint outside(-400, -300);
+    QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, IndexOf(FittingCard));
+    MoveMouse(outside, Qt::LeftButton);
+    EXPECT_NE(PlaceOf(FittingCard), start);
+    QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, outside);
+    EXPECT_EQ(PlaceOf(FittingCard), start);
+    EXPECT_FALSE(gDrag.gPicked);
+}
+
+TEST_F(MainWindow, ACommandDuringADragPutsTheCardBackFirst) {
+    DealOne();
+    const QPoint grip = IndexOf(FittingCard);
+    QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, grip);
+    MoveMouse(grip + QPoint(50, 90), Qt::LeftButton);
+    mMain::Undo(0);
+    EXPECT_EQ(mFunc::CardCell(FittingCard), Stock);
+    QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, grip);
+    EXPECT_EQ(mFunc::CardCell(FittingCard), Stock);
+    EXPECT_EQ(PlaceOf(FittingCard), std::make_pair(gGames->GetCordX(Stock, 0, mFunc::CardPos(FittingCard)),
+                                                   gGames->GetCordY(Stock, 0, mFunc::CardPos(FittingCard))));
+}
+
+TEST_F(MainWindow, ADoubleClickIsTwoPresses) {
+    mGen::StartGame("Klondike", 1.0);
+    const int before = gArray->GetTop(Stock);
+    const QPoint stock = IndexOf(gArray->GetTopPicID(Stock));
+    QTest::mouseClick(Viewport(), Qt::LeftButton, Qt::NoModifier, stock);
+    QTest::mouseDClick(Viewport(), Qt::LeftButton, Qt::NoModifier, stock);
+    EXPECT_LE(gArray->GetTop(Stock), before - 2);
+}
+
+TEST_F(MainWindow, AClickOnTheStocksMarkRedeals) {
+    mGen::StartGame("Klondike", 1.0);
+    while (gArray->GetTop(Stock) >= 0) gArray->AddtoWaste(gArray->GetTopPicID(Stock));
+    const int waste = gArray->GetTop(Waste);
+    const MarkRecord& mark = PicBack.Mark(MarkKind::Stock, 0);
+    QTest::mouseClick(Viewport(), Qt::LeftButton, Qt::NoModifier, At(mark.Left + 500, mark.Top + 700));
+    EXPECT_EQ(gArray->GetTop(Stock), waste);
+    EXPECT_EQ(gArray->GetTop(Waste), -1);
+}
+
+TEST_F(MainWindow, CommandsAreEnabledAsTheGameStands) {
+    struct Row {
+        const char* Entry;
+        bool Empty, Dealt, Moved, Undone;
+    };
+    // clang-format off
+    constexpr Row rows[] = {
+        //  entry      no game  dealt  moved  undone
+        {"mFile1",      true,   true,  true,  true},
+        {"mFile4",      false,  true,  true,  true},
+        {"mFile5",      false,  true,  true,  true},
+        {"mGame1",      false,  false, true,  false},
+        {"mGame6",      false,  false, true,  false},
+        {"mGame2",      false,  false, false, true},
+        {"mGame7",      false,  false, false, true},
+        {"mReplay1",    false,  false, false, true},
+        {"mReplay2",    false,  false, true,  false},
+        {"mReplay4",    false,  false, true,  true},
+        {"mReplay6",    false,  false, false, false},
+        {"mTools5",     false,  true,  true,  true},
+    };
+    // clang-format on
+    const auto check = [&](bool Row::*state, const char* when) {
+        QTest::qWait(250);  // the states follow within a tick
+        for (const Row& row : rows)
+            EXPECT_EQ(Entry(row.Entry)->isEnabled(), row.*state) << row.Entry << ' ' << when;
+    };
+    check(&Row::Empty, "without a game");
+    mGen::StartGame("Giant", 7.0);
+    mMain::UndoAll(0);
+    gTrans = std::make_unique<cTrans>();  // whatever the first autoplay pass did
+    check(&Row::Dealt, "after the deal");
+    mMain::MouseDown(gArray->GetTopPicID(Stock), 100, 100);
+    check(&Row::Moved, "after a move");
+    mMain::UndoAll(0);
+    check(&Row::Undone, "after undoing it");
+    mMain::CloseGame();
+    check(&Row::Empty, "after closing");
+    for (const char* name : {"mScore", "mTime", "mMoves"}) {
+        QTest::qWait(300);
+        EXPECT_EQ(window_->findChild<QLabel*>(QLatin1String(name))->text(), QString()) << name;
+    }
+}
+
+TEST_F(MainWindow, ReplayRunsByItsTimersAndStops) {
+    mGen::StartGame("Giant", 7.0);
+    mMain::MouseDown(gArray->GetTopPicID(Stock), 100, 100);
+    mMain::UndoAll(0);
+    QTest::qWait(150);
+    const auto* forward = window_->findChild<QTimer*>(QStringLiteral("tmrForward"));
+    Entry("mReplay1")->trigger();
+    EXPECT_TRUE(forward->isActive());
+    bool canStop = false;
+    const auto ended = [&] {
+        canStop = canStop || Entry("mReplay6")->isEnabled();
+        return !forward->isActive();
+    };
+    EXPECT_TRUE(QTest::qWaitFor(ended, 20000));
+    EXPECT_EQ(gTrans->GetTransID(), gTrans->MaxTrans());
+    EXPECT_TRUE(canStop);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Entry("mReplay6")->isEnabled(); }, 20000));
+}
+
+// Counts what a widget below the window has to draw or lay out.
+class WorkCounter : public QObject {
+public:
+    int Count = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+        switch (event->type()) {
+            case QEvent::Paint:
+            case QEvent::LayoutRequest:
+            case QEvent::Resize:
+            case QEvent::ActionChanged:
+                ++Count;
+                break;
+            default:
+                break;
+        }
+        return false;
+    }
+};
+
+TEST_F(MainWindow, AnIdleTickChangesNoWidget) {
+    mGen::StartGame("Klondike", 1.0);
+    WorkCounter counter;
+    window_->installEventFilter(&counter);
+    for (QWidget* widget : window_->findChildren<QWidget*>()) widget->installEventFilter(&counter);
+    // The clock of the game stands: once the deal is shown, no figure changes. A busy machine may take long
+    // to come to rest; a tick that works would never let it.
+    const auto idle = [&] {
+        counter.Count = 0;
+        QTest::qWait(1200);
+        return counter.Count == 0;
+    };
+    EXPECT_TRUE(QTest::qWaitFor(idle, 20000));
+}
+
+TEST_F(MainWindow, ClosingTheWindowRecordsARunningGameAsLost) {
+    mGen::StartGame("Klondike", 1.0);
+    window_->close();
+    EXPECT_EQ(gData, nullptr);
+    const std::string& file = memory_.Files.Contents["/data/Kelmor/Tarnival 2004 11.0/Player1.sre"];
+    EXPECT_EQ(file, "\"2004-01-01 00:00:00\",\"Klondike\",1,0,0,0,0\r\n");
+}
+
+TEST_F(MainWindow, TheWindowOpensWithTheDesignedTable) {
+    EXPECT_EQ(window_->width(), 673);
+    EXPECT_EQ(window_->findChild<QWidget*>(QStringLiteral("PicMain"))->mapTo(window_.get(), QPoint()).x(), 0);
+    // The plate is centred: a card at its middle lies at the middle of the view, 20 twips to the left.
+    const QPoint middle = At(PlateWidth / 2, 0);
+    EXPECT_NEAR(middle.x(), 673 / 2 - 1, 1);
+    EXPECT_EQ(middle.y(), 0);
+    mMain::FlipToolbar();
+    QTest::qWait(50);
+    EXPECT_EQ(window_->findChild<QWidget*>(QStringLiteral("PicMain"))->height(), 437);
+}
+
+}  // namespace

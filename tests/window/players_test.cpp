@@ -1,0 +1,280 @@
+// Players and favourites as the player of the game meets them.
+#include <gmock/gmock.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeView>
+
+#include "DialogTest.h"
+#include "records/cScore.h"
+#include "records/dlGInput.h"
+#include "records/frmOrgFav.h"
+#include "records/frmPlayFav.h"
+#include "records/frmPlayers.h"
+#include "records/mFavourites.h"
+#include "records/mPlayers.h"
+#include "shell/cData.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class PlayerDialogs : public DialogTest {
+protected:
+    void SetUp() override {
+        DialogTest::SetUp();
+        gData->SetPlayer(2, "Ann", false);
+        gData->SetPlayer(3, "Bob", false);
+    }
+    /// Enters a name into the name dialog that a button opens.
+    static void EnterName(const frmPlayers& dialog, const char* button, const QString& name) {
+        OnModal([&name](QWidget& input) {
+            Find<QLineEdit>(input, "Text1")->setText(name);
+            Click(input, "OKButton");
+        });
+        Click(dialog, button);
+    }
+};
+
+TEST_F(PlayerDialogs, TheSelectedPlayerCannotBeDeleted) {
+    gData->SetCurPlayer("Ann");
+    frmPlayers dialog;
+    Open(dialog);
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Players"));
+    auto* list = Find<QTreeView>(dialog, "lvPlayer");
+    EXPECT_THAT(Rows(list), ElementsAre("Player1", "Ann", "Bob"));
+    EXPECT_EQ(Selected(list), "Ann");
+    EXPECT_FALSE(Enabled(dialog, "cmdDelete"));
+    ClickRow(list, list->model()->index(2, 0));
+    EXPECT_TRUE(Enabled(dialog, "cmdDelete"));
+    // The keyboard moves the selection as a click does.
+    QTest::keyClick(list, Qt::Key_Up);
+    EXPECT_EQ(Selected(list), "Ann");
+    EXPECT_FALSE(Enabled(dialog, "cmdDelete"));
+    QTest::keyClick(list, Qt::Key_Up);
+    EXPECT_TRUE(Enabled(dialog, "cmdDelete"));
+}
+
+TEST_F(PlayerDialogs, ADeleteGoesThroughItsQuestion) {
+    gScore->AddScore(0);
+    frmPlayers dialog;
+    Open(dialog);
+    auto* list = Find<QTreeView>(dialog, "lvPlayer");
+    for (const bool yes : {false, true}) {
+        layer_.Forms.Answer = yes;
+        ClickRow(list, list->model()->index(1, 0));
+        Click(dialog, "cmdDelete");
+        EXPECT_EQ(list->model()->rowCount(), yes ? 2 : 3);
+        EXPECT_EQ(Selected(list), "Player1") << "the list comes back on the current player";
+        EXPECT_FALSE(Enabled(dialog, "cmdDelete"));
+    }
+    EXPECT_THAT(Rows(list), ElementsAre("Player1", "Bob"));
+    EXPECT_THAT(layer_.Forms.Questions, ElementsAre("Are you sure you want to delete this player",
+                                                    "Are you sure you want to delete this player"));
+}
+
+TEST_F(PlayerDialogs, NewAndEditGoThroughTheNameDialog) {
+    frmPlayers dialog;
+    Open(dialog);
+    auto* list = Find<QTreeView>(dialog, "lvPlayer");
+    EnterName(dialog, "cmdAdd", QStringLiteral("Zoë"));
+    EXPECT_THAT(Rows(list), ElementsAre("Player1", "Ann", "Bob", "Zoë"));
+    EXPECT_EQ(Selected(list), "Player1") << "a new player is not selected";
+    EXPECT_EQ(gData->CurPlayer(), "Player1");
+    EnterName(dialog, "cmdEdit", QStringLiteral("First"));
+    EXPECT_THAT(Rows(list), ElementsAre("First", "Ann", "Bob", "Zoë"));
+    EXPECT_EQ(Selected(list), "First");
+    EXPECT_EQ(gData->CurPlayer(), "First");
+    OnModal([](QWidget& input) {
+        Find<QLineEdit>(input, "Text1")->setText(QStringLiteral("Nobody"));
+        Click(input, "CancelButton");
+    });
+    Click(dialog, "cmdEdit");
+    EXPECT_EQ(gData->CurPlayer(), "First");
+    EXPECT_THAT(layer_.Forms.Messages, IsEmpty());
+}
+
+TEST_F(PlayerDialogs, TheNameDialogRefusesAndStaysOpen) {
+    struct Row {
+        const char* Says;
+        const char* OldName;
+        const char* Typed;
+        const char* Message;
+    };
+    const Row rows[] = {
+        {"nothing typed", "", "", "Please Enter a Valid Name"},
+        {"nothing left", "Ann", "", "Please Enter a Valid Name"},
+        {"a folder's name", "", "a/b", "Please Enter a Valid Name"},
+        {"someone else", "", "Bob", "Player Exists !"},
+        {"the old name itself", "Ann", "Ann", "Player Exists !"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Says);
+        layer_.Forms.Messages.clear();
+        const QString caption = QStringLiteral("Add Player");
+        dlGInput dialog(caption, QLatin1String(row.OldName));
+        Open(dialog);
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Tarnival 2004 11.0"));
+        EXPECT_EQ(Find<QLabel>(dialog, "Label1")->text(), caption);
+        auto* name = Find<QLineEdit>(dialog, "Text1");
+        EXPECT_EQ(name->selectedText(), QLatin1String(row.OldName));
+        name->setText(QLatin1String(row.Typed));
+        Click(dialog, "OKButton");
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_TRUE(name->hasFocus());
+        EXPECT_THAT(layer_.Forms.Messages, ElementsAre(row.Message));
+        EXPECT_THAT(mPlayers::Names(), ElementsAre("Player1", "Ann", "Bob"));
+        // A better name ends it.
+        name->setText(QStringLiteral("Cid"));
+        QTest::keyClick(name, Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+        gData->SetPlayer(2, "Ann", false);
+        gData->SetPlayer(4, "", false);
+    }
+}
+
+TEST_F(PlayerDialogs, TheTwentyFirstPlayerMeetsAMessageBeforeAnyDialog) {
+    for (int i = 4; i <= 20; ++i) gData->SetPlayer(i, "P" + std::to_string(i), false);
+    frmPlayers dialog;
+    Open(dialog);
+    Click(dialog, "cmdAdd");  // a name dialog would wait here for ever
+    EXPECT_THAT(layer_.Forms.Messages, ElementsAre("Maximum 20 Players Only!"));
+    EXPECT_TRUE(dialog.isVisible());
+}
+
+TEST_F(PlayerDialogs, SelectMakesCurrentAndLeavesTheGameRunning) {
+    mGen::StartGame("Klondike", 1.0);
+    for (const bool byDoubleClick : {false, true}) {
+        frmPlayers dialog;
+        Open(dialog);
+        auto* list = Find<QTreeView>(dialog, "lvPlayer");
+        const QModelIndex row = list->model()->index(byDoubleClick ? 1 : 2, 0);
+        ClickRow(list, row);
+        if (byDoubleClick) {
+            QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                               list->visualRect(row).center());
+        } else {
+            Click(dialog, "cmdSelect");
+        }
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_EQ(gData->CurPlayer(), byDoubleClick ? "Ann" : "Bob");
+    }
+    EXPECT_TRUE(gData->Figures.GameRunning);
+    mGen::CloseGame(0);
+    EXPECT_TRUE(layer_.Files.Exists(cScore::FileName("Ann")));
+
+    frmPlayers dialog;
+    Open(dialog);
+    ClickRow(Find<QTreeView>(dialog, "lvPlayer"), Find<QTreeView>(dialog, "lvPlayer")->model()->index(2, 0));
+    Click(dialog, "cmdCancel");
+    EXPECT_EQ(gData->CurPlayer(), "Ann");
+}
+
+class FavouriteDialogs : public DialogTest {
+protected:
+    static void Add(const char* game, const GameNumber& number) { ASSERT_TRUE(gScore->AddFav(game, number)); }
+    [[nodiscard]] static QTreeView* Numbers(const QWidget& dialog) {
+        return Find<QTreeView>(dialog, "lvFav");
+    }
+};
+
+TEST_F(FavouriteDialogs, TheRunningDealIsAddedAndToldOf) {
+    mFavourites::AddRunning();
+    EXPECT_THAT(layer_.Forms.Messages, IsEmpty()) << "no game runs";
+    mGen::StartGame("Klondike", 77.0);
+    mFavourites::AddRunning();
+    mGen::StartGame("Klondike", std::string("0078"));
+    mFavourites::AddRunning();
+    EXPECT_THAT(layer_.Forms.Messages,
+                ElementsAre("Game <77> Successfully Added to Favorites Under <Klondike> Folder",
+                            "Game <0078> Successfully Added to Favorites Under <Klondike> Folder"));
+    layer_.Forms.Messages.clear();
+    layer_.Files.Fault = "No space left on device";
+    mFavourites::AddRunning();
+    layer_.Files.Fault.reset();
+    ASSERT_EQ(layer_.Forms.Messages.size(), 1u);
+    EXPECT_THAT(layer_.Forms.Messages[0], testing::HasSubstr("could not be written"));
+    mFavourites::Open();
+    EXPECT_THAT(mFavourites::Numbers("Klondike"), ElementsAre("77", "0078", "0078"))
+        << "what waited is written when a list opens";
+}
+
+TEST_F(FavouriteDialogs, AreOrganizedByGame) {
+    Add("Yukon", 5.0);
+    Add("Klondike", 1.0);
+    Add("Yukon", std::string("3"));
+    Add("Yukon", 5.0);
+    gData->Figures.CurGName = "Yukon";
+    frmOrgFav dialog;
+    Open(dialog);
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Organize Favorites"));
+    auto* games = Find<QTreeView>(dialog, "lvGames");
+    EXPECT_EQ(games->model()->rowCount(), gData->TotalGames());
+    EXPECT_EQ(games->model()->headerData(0, Qt::Horizontal).toString(), QStringLiteral("Game"));
+    EXPECT_EQ(Numbers(dialog)->model()->headerData(0, Qt::Horizontal).toString(),
+              QStringLiteral("Game Number"));
+    EXPECT_EQ(Selected(games), "Yukon");
+    EXPECT_TRUE(games->viewport()->rect().contains(games->visualRect(games->currentIndex())))
+        << "the selection is out of sight";
+    EXPECT_THAT(Rows(Numbers(dialog)), ElementsAre("5", "3", "5"));
+    ClickRow(games, games->model()->index(0, 0));
+    EXPECT_THAT(Rows(Numbers(dialog)), IsEmpty());
+
+    // All of all games go at once, without a question.
+    ASSERT_TRUE(Enabled(dialog, "cmdClear"));
+    Click(dialog, "cmdClear");
+    EXPECT_THAT(layer_.Forms.Questions, IsEmpty());
+    EXPECT_FALSE(layer_.Files.Exists(cScore::FavFileName()));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Enabled(dialog, "cmdClear"); }, 2000));
+    Click(dialog, "cmdClose");
+    EXPECT_FALSE(dialog.isVisible());
+
+    gData->Figures.CurGName.clear();
+    frmOrgFav again;
+    EXPECT_EQ(Selected(Find<QTreeView>(again, "lvGames")), gData->GetGame(1));
+    EXPECT_FALSE(Enabled(again, "cmdClear"));
+}
+
+TEST_F(FavouriteDialogs, ArePlayedWithTheirNumberAsText) {
+    Add("Yukon", 5.0);
+    Add("Klondike", 1.0);
+    Add("Yukon", 9.0);
+    gData->SetCurGName("Klondike");
+    mGen::StartGame("Klondike", 1.0);
+    frmPlayFav dialog;
+    Open(dialog);
+    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Play from Favorites"));
+    auto* games = Find<QComboBox>(dialog, "cmGames");
+    EXPECT_EQ(games->count(), gData->TotalGames());
+    EXPECT_EQ(games->currentText(), QStringLiteral("Klondike"));
+    EXPECT_TRUE(Enabled(dialog, "cmdPlay"));
+    games->setCurrentIndex(0);
+    EXPECT_THAT(Rows(Numbers(dialog)), IsEmpty());
+    EXPECT_FALSE(Enabled(dialog, "cmdPlay"));
+    games->setCurrentIndex(games->findText(QStringLiteral("Yukon")));
+    EXPECT_THAT(Rows(Numbers(dialog)), ElementsAre("5", "9"));
+    EXPECT_EQ(Selected(Numbers(dialog)), "9") << "the last one is selected";
+    ClickRow(Numbers(dialog), Numbers(dialog)->model()->index(0, 0));
+    Click(dialog, "cmdPlay");
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(gData->Figures.CurGName, "Yukon");
+    EXPECT_EQ(gData->Figures.CurGNo, GameNumber(std::string("5")));
+    ASSERT_EQ(gScore->SesTop(), 1);
+    EXPECT_EQ(gScore->GetSes(1).gName, "Klondike") << "the running game was lost";
+}
+
+TEST_F(FavouriteDialogs, ADamagedFileShowsWhatCanBeReadAndSaysSoOnce) {
+    layer_.Files.Contents[cScore::FavFileName()] = "\"Yukon\",5\r\nrubbish\r\n\"Yukon\",\"6\"";
+    gData->Figures.CurGName = "Yukon";
+    for (int opening = 0; opening < 2; ++opening) {
+        frmOrgFav dialog;
+        EXPECT_THAT(Rows(Numbers(dialog)), ElementsAre("5", "6"));
+    }
+    EXPECT_THAT(
+        layer_.Forms.Messages,
+        ElementsAre("1 line of the favorites could not be read and was left out.\n" + cScore::FavFileName()));
+}
+
+}  // namespace

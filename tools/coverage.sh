@@ -1,0 +1,13 @@
+#!/usr/bin/env bash
+# Which lines of the engine no test reaches: builds with counters, runs the tests that need no window, and
+# prints a line a file and then every line that was not reached.
+set -euo pipefail
+# shellcheck source=setup/setup.sh
+. "$(dirname "$0")/setup/setup.sh"
+. tools/setup/tests.sh
+
+ensure_packages play check
+build coverage
+find build/coverage -name '*.gcda' -delete
+run_tests coverage -E 'endtoend|Window|Dialogs' >build/coverage/tests.log || fail "see build/coverage/tests.log"
+python3 tools/setup/coverage.py build/coverage
