@@ -35,7 +35,7 @@ struct Layout {
 
 /// A whole game: the row of its family with the family's shared values filled in.
 struct Definition {
-    std::string_view Name;
+    std::string_view Name = {};
     bool Original = false;
 
     int HomePiles = 0;

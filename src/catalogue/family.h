@@ -6,6 +6,9 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "catalogue/definition.h"
@@ -14,8 +17,8 @@
 namespace mFamily {
 
 /// Adds a family to the catalogue, in the order of its table.
-template <typename Table>
-void List(const char* group, const Table& games) {
+template <typename Games>
+void List(const char* group, const Games& games) {
     std::vector<GameEntry> members;
     members.reserve(games.size());
     for (const Definition& game : games) members.push_back({std::string(game.Name), game.Original});
@@ -23,28 +26,41 @@ void List(const char* group, const Table& games) {
 }
 
 /// Fills gGames with the game of that name; a name of another family changes nothing.
-template <typename Table>
-void Set(const std::string& name, const Table& games) {
+template <typename Games>
+void Set(const std::string& name, const Games& games) {
     const auto game = std::find_if(games.begin(), games.end(),
                                    [&](const Definition& candidate) { return candidate.Name == name; });
     if (game != games.end()) mDefine::Apply(*game);
 }
 
-/// Turns a family's own rows into whole games, at compile time.
-template <typename Row, std::size_t Count, typename Complete>
-constexpr std::array<Definition, Count> CompleteAll(const std::array<Row, Count>& rows, Complete complete) {
-    std::array<Definition, Count> games{};
-    for (std::size_t i = 0; i < Count; ++i) games[i] = complete(rows[i]);
-    return games;
-}
+/// A family's table: each row holds the values of these fields of a game, in this order. A field that is
+/// neither a column nor among what the family shares is as Definition has it.
+template <auto... Fields>
+struct Table {
+    using Row = std::tuple<std::remove_cvref_t<decltype(std::declval<Definition>().*Fields)>...>;
+    template <std::size_t Count>
+    using Rows = std::array<Row, Count>;
 
-template <typename Table>
-constexpr bool AllSound(const Table& games) {
+    /// Whole games: what the family shares, and each row's own values.
+    template <std::size_t Count>
+    static constexpr std::array<Definition, Count> Complete(const Definition& shared,
+                                                            const Rows<Count>& rows) {
+        std::array<Definition, Count> games{};
+        for (std::size_t i = 0; i < Count; ++i) {
+            games[i] = shared;
+            std::apply([&](const auto&... values) { ((games[i].*Fields = values), ...); }, rows[i]);
+        }
+        return games;
+    }
+};
+
+template <typename Games>
+constexpr bool AllSound(const Games& games) {
     return std::all_of(games.begin(), games.end(), mDefine::IsSound);
 }
 
-template <typename Table>
-constexpr bool NamesDiffer(const Table& games) {
+template <typename Games>
+constexpr bool NamesDiffer(const Games& games) {
     for (auto game = games.begin(); game != games.end(); ++game) {
         if (std::any_of(games.begin(), game,
                         [&](const Definition& other) { return other.Name == game->Name; })) {
@@ -54,8 +70,8 @@ constexpr bool NamesDiffer(const Table& games) {
     return true;
 }
 
-template <typename Table>
-constexpr int Originals(const Table& games) {
+template <typename Games>
+constexpr int Originals(const Games& games) {
     return static_cast<int>(
         std::count_if(games.begin(), games.end(), [](const Definition& game) { return game.Original; }));
 }

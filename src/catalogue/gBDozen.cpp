@@ -28,28 +28,19 @@ constexpr Layout Piles13GoalsBeside = {
 
 // clang-format on
 
-struct Row {
-    std::string_view Name;
-    bool Original;
-    int HomePiles;
-    int HomeCards;
-    int HomeOpen;
-    RuleCode HomeOrder;
-    int HomeAK;
-    EmptyFillType HomeFill;
-    bool HomeMove;
-    HomeType HomePattern;
-    SuitType Suits;
-    int GoalCards;
-    RuleCode GoalOrder;
-    GoalType GoalBase;
-    int GoalAK;
-    bool MoveKings;
-    const Layout* Places;
-};
+// What all games of the family have in common.
+constexpr Definition shared = {.GoalPiles = 4};
+
+// The columns of the table.
+using Table =
+    mFamily::Table<&Definition::Name, &Definition::Original, &Definition::HomePiles, &Definition::HomeCards,
+                   &Definition::HomeOpen, &Definition::HomeOrder, &Definition::HomeAK, &Definition::HomeFill,
+                   &Definition::HomeMove, &Definition::HomePattern, &Definition::Suits,
+                   &Definition::GoalCards, &Definition::GoalOrder, &Definition::GoalBase, &Definition::GoalAK,
+                   &Definition::MoveKings, &Definition::Places>;
 
 // clang-format off
-constexpr std::array<Row, 20> rows = {{
+constexpr Table::Rows<20> rows = {{
 //                                      H      H     H  H           H  H         H     H                             G  G         G               G
 //   Game                      O    Piles  Cards  Open  Order      AK  Fill      Move  Type           Suits      Cards  Order     Type           AK  MoveKings  layout
     {"Baker's Dozen",          no,     13,    52,    0, DownAny,    0, Nothing,  no,   Rows,          FourSuits,     0, UpSuit,   Aces,           0, yes,       &Piles13GoalsBeside},
@@ -75,40 +66,7 @@ constexpr std::array<Row, 20> rows = {{
 }};
 // clang-format on
 
-constexpr Definition Complete(const Row& row) {
-    return {.Name = row.Name,
-            .Original = row.Original,
-            .HomePiles = row.HomePiles,
-            .HomeCards = row.HomeCards,
-            .HomeOpen = row.HomeOpen,
-            .HomeOrder = row.HomeOrder,
-            .HomeMulti = AsOrder,
-            .HomeAK = row.HomeAK,
-            .HomeFill = row.HomeFill,
-            .HomeMove = row.HomeMove,
-            .HomePattern = row.HomePattern,
-            .Suits = row.Suits,
-            .GoalPiles = 4,
-            .GoalCards = row.GoalCards,
-            .GoalOrder = row.GoalOrder,
-            .GoalBase = row.GoalBase,
-            .GoalAK = row.GoalAK,
-            .GoalUpDown = no,
-            .StockPress = none,
-            .StockMark = none,
-            .StockKind = Closed,
-            .Deck = 52,
-            .Redeals = 0,
-            .NoAuto = no,
-            .GoalDiv = 0,
-            .Kind = Plain,
-            .Refill = none,
-            .Redeal = WasteToStock,
-            .MoveKings = row.MoveKings,
-            .Places = row.Places};
-}
-
-constexpr auto games = mFamily::CompleteAll(rows, Complete);
+constexpr auto games = Table::Complete(shared, rows);
 
 static_assert(mFamily::AllSound(games));
 static_assert(mFamily::NamesDiffer(games));

@@ -26,33 +26,17 @@ constexpr Layout SquaredPiles8 = {
 
 // clang-format on
 
-struct Row {
-    std::string_view Name;
-    bool Original;
-    int HomePiles;
-    int HomeCards;
-    int HomeOpen;
-    RuleCode HomeOrder;
-    int HomeAK;
-    bool HomeMove;
-    HomeType HomePattern;
-    SuitType Suits;
-    int GoalPiles;
-    int GoalCards;
-    RuleCode GoalOrder;
-    GoalType GoalBase;
-    int GoalAK;
-    StockMove StockPress;
-    StockNum StockMark;
-    bool Waste;
-    int Deck;
-    int Redeals;
-    AutoFill Refill;
-    const Layout* Places;
-};
+// The columns of the table.
+using Table =
+    mFamily::Table<&Definition::Name, &Definition::Original, &Definition::HomePiles, &Definition::HomeCards,
+                   &Definition::HomeOpen, &Definition::HomeOrder, &Definition::HomeAK, &Definition::HomeMove,
+                   &Definition::HomePattern, &Definition::Suits, &Definition::GoalPiles,
+                   &Definition::GoalCards, &Definition::GoalOrder, &Definition::GoalBase, &Definition::GoalAK,
+                   &Definition::StockPress, &Definition::StockMark, &Definition::Waste, &Definition::Deck,
+                   &Definition::Redeals, &Definition::Refill, &Definition::Places>;
 
 // clang-format off
-constexpr std::array<Row, 25> rows = {{
+constexpr Table::Rows<25> rows = {{
 //                                  H      H     H  H             H  H     H                                 G      G  G         G           G  S              S
 //   Game                  O    Piles  Cards  Open  Order        AK  Move  Type               Suits      Piles  Cards  Order     Type       AK  Move           Num       Waste  Deck  Redeals  AutoFill   layout
     {"Assembly",           yes,     8,     8,    0, DownAny,      1, no,   Rows,              FourSuits,     8,     1, UpSuit,   FirstCard,  1, OneToWaste,    NoRedeal, yes,    104,       0, FromWaste, &SquaredPiles8},
@@ -85,41 +69,7 @@ constexpr std::array<Row, 25> rows = {{
 }};
 // clang-format on
 
-constexpr Definition Complete(const Row& row) {
-    return {.Name = row.Name,
-            .Original = row.Original,
-            .HomePiles = row.HomePiles,
-            .HomeCards = row.HomeCards,
-            .HomeOpen = row.HomeOpen,
-            .HomeOrder = row.HomeOrder,
-            .HomeMulti = AsOrder,
-            .HomeAK = row.HomeAK,
-            .HomeFill = AnyCard,
-            .HomeMove = row.HomeMove,
-            .HomePattern = row.HomePattern,
-            .Suits = row.Suits,
-            .GoalPiles = row.GoalPiles,
-            .GoalCards = row.GoalCards,
-            .GoalOrder = row.GoalOrder,
-            .GoalBase = row.GoalBase,
-            .GoalAK = row.GoalAK,
-            .GoalUpDown = no,
-            .StockPress = row.StockPress,
-            .StockMark = row.StockMark,
-            .StockKind = Closed,
-            .Waste = row.Waste,
-            .Deck = row.Deck,
-            .Redeals = row.Redeals,
-            .NoAuto = no,
-            .GoalDiv = 0,
-            .Kind = Plain,
-            .Refill = row.Refill,
-            .Redeal = WasteToStock,
-            .MoveKings = no,
-            .Places = row.Places};
-}
-
-constexpr auto games = mFamily::CompleteAll(rows, Complete);
+constexpr auto games = Table::Complete({}, rows);
 
 static_assert(mFamily::AllSound(games));
 static_assert(mFamily::NamesDiffer(games));

@@ -81,32 +81,20 @@ constexpr Layout Piles8 = {
 
 // clang-format on
 
-struct Row {
-    std::string_view Name;
-    bool Original;
-    int HomePiles;
-    int HomeCards;
-    RuleCode HomeOrder;
-    int HomeAK;
-    bool HomeMove;
-    HomeType HomePattern;
-    SuitType Suits;
-    int GoalPiles;
-    int GoalCards;
-    RuleCode GoalOrder;
-    GoalType GoalBase;
-    int GoalAK;
-    StockMove StockPress;
-    StockNum StockMark;
-    bool Waste;
-    int ResCards;
-    int Deck;
-    int Redeals;
-    const Layout* Places;
-};
+// What all games of the family have in common.
+constexpr Definition shared = {.HomeFill = FromStock, .ResPiles = 1, .Refill = FromReserve};
+
+// The columns of the table.
+using Table =
+    mFamily::Table<&Definition::Name, &Definition::Original, &Definition::HomePiles, &Definition::HomeCards,
+                   &Definition::HomeOrder, &Definition::HomeAK, &Definition::HomeMove,
+                   &Definition::HomePattern, &Definition::Suits, &Definition::GoalPiles,
+                   &Definition::GoalCards, &Definition::GoalOrder, &Definition::GoalBase, &Definition::GoalAK,
+                   &Definition::StockPress, &Definition::StockMark, &Definition::Waste, &Definition::ResCards,
+                   &Definition::Deck, &Definition::Redeals, &Definition::Places>;
 
 // clang-format off
-constexpr std::array<Row, 20> rows = {{
+constexpr Table::Rows<20> rows = {{
 //                                      H      H  H           H  H     H                           G      G  G         G               G  S              S                    R
 //   Game                      O    Piles  Cards  Order      AK  Move  Type         Suits      Piles  Cards  Order     Type           AK  Move           Num       Waste  Cards  Deck  Redeals  layout
     {"Acme",                   no,      4,     4, DownSuit,   0, no,   Rows,        FourSuits,     4,     4, UpSuit,   Aces,           0, OneToWaste,    Redeal,   yes,      13,   52,       1, &Piles4},
@@ -132,44 +120,7 @@ constexpr std::array<Row, 20> rows = {{
 }};
 // clang-format on
 
-constexpr Definition Complete(const Row& row) {
-    return {.Name = row.Name,
-            .Original = row.Original,
-            .HomePiles = row.HomePiles,
-            .HomeCards = row.HomeCards,
-            .HomeOpen = 0,
-            .HomeOrder = row.HomeOrder,
-            .HomeMulti = AsOrder,
-            .HomeAK = row.HomeAK,
-            .HomeFill = FromStock,
-            .HomeMove = row.HomeMove,
-            .HomePattern = row.HomePattern,
-            .Suits = row.Suits,
-            .GoalPiles = row.GoalPiles,
-            .GoalCards = row.GoalCards,
-            .GoalOrder = row.GoalOrder,
-            .GoalBase = row.GoalBase,
-            .GoalAK = row.GoalAK,
-            .GoalUpDown = no,
-            .StockPress = row.StockPress,
-            .StockMark = row.StockMark,
-            .StockKind = Closed,
-            .Waste = row.Waste,
-            .ResPiles = 1,
-            .ResCards = row.ResCards,
-            .ResNum = NoDrop,
-            .Deck = row.Deck,
-            .Redeals = row.Redeals,
-            .NoAuto = no,
-            .GoalDiv = 0,
-            .Kind = Plain,
-            .Refill = FromReserve,
-            .Redeal = WasteToStock,
-            .MoveKings = no,
-            .Places = row.Places};
-}
-
-constexpr auto games = mFamily::CompleteAll(rows, Complete);
+constexpr auto games = Table::Complete(shared, rows);
 
 static_assert(mFamily::AllSound(games));
 static_assert(mFamily::NamesDiffer(games));

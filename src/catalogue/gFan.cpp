@@ -33,33 +33,20 @@ constexpr Layout Fans18Redeal = {
 
 // clang-format on
 
-struct Row {
-    std::string_view Name;
-    bool Original;
-    int HomePiles;
-    int HomeCards;
-    int HomeOpen;
-    RuleCode HomeOrder;
-    int HomeAK;
-    EmptyFillType HomeFill;
-    HomeType HomePattern;
-    SuitType Suits;
-    int GoalCards;
-    RuleCode GoalOrder;
-    GoalType GoalBase;
-    int GoalAK;
-    StockMove StockPress;
-    StockNum StockMark;
-    int Redeals;
-    GameType Kind;
-    RedealType Redeal;
-    bool MoveKings;
-    int MaxCards;
-    const Layout* Places;
-};
+// What all games of the family have in common.
+constexpr Definition shared = {.GoalPiles = 4};
+
+// The columns of the table.
+using Table =
+    mFamily::Table<&Definition::Name, &Definition::Original, &Definition::HomePiles, &Definition::HomeCards,
+                   &Definition::HomeOpen, &Definition::HomeOrder, &Definition::HomeAK, &Definition::HomeFill,
+                   &Definition::HomePattern, &Definition::Suits, &Definition::GoalCards,
+                   &Definition::GoalOrder, &Definition::GoalBase, &Definition::GoalAK,
+                   &Definition::StockPress, &Definition::StockMark, &Definition::Redeals, &Definition::Kind,
+                   &Definition::Redeal, &Definition::MoveKings, &Definition::MaxCards, &Definition::Places>;
 
 // clang-format off
-constexpr std::array<Row, 15> rows = {{
+constexpr Table::Rows<15> rows = {{
 //                                   H      H     H  H           H  H         H                             G  G         G           G  S           S
 //   Game                   O    Piles  Cards  Open  Order      AK  Fill      Type           Suits      Cards  Order     Type       AK  Move        Num     Redeals  GameType    RedealType     MoveKings  MaxCards  layout
     {"Fan",                 no,     18,    52,    0, DownSuit,   0, KingOnly, Rows,          FourSuits,     0, UpSuit,   Aces,       0, none,       none,         0, Plain,      WasteToStock,  no,            none, &Fans18},
@@ -80,41 +67,7 @@ constexpr std::array<Row, 15> rows = {{
 }};
 // clang-format on
 
-constexpr Definition Complete(const Row& row) {
-    return {.Name = row.Name,
-            .Original = row.Original,
-            .HomePiles = row.HomePiles,
-            .HomeCards = row.HomeCards,
-            .HomeOpen = row.HomeOpen,
-            .HomeOrder = row.HomeOrder,
-            .HomeMulti = AsOrder,
-            .HomeAK = row.HomeAK,
-            .HomeFill = row.HomeFill,
-            .HomeMove = no,
-            .HomePattern = row.HomePattern,
-            .Suits = row.Suits,
-            .GoalPiles = 4,
-            .GoalCards = row.GoalCards,
-            .GoalOrder = row.GoalOrder,
-            .GoalBase = row.GoalBase,
-            .GoalAK = row.GoalAK,
-            .GoalUpDown = no,
-            .StockPress = row.StockPress,
-            .StockMark = row.StockMark,
-            .StockKind = Closed,
-            .Deck = 52,
-            .Redeals = row.Redeals,
-            .NoAuto = no,
-            .GoalDiv = 0,
-            .Kind = row.Kind,
-            .Refill = none,
-            .Redeal = row.Redeal,
-            .MoveKings = row.MoveKings,
-            .MaxCards = row.MaxCards,
-            .Places = row.Places};
-}
-
-constexpr auto games = mFamily::CompleteAll(rows, Complete);
+constexpr auto games = Table::Complete(shared, rows);
 
 static_assert(mFamily::AllSound(games));
 static_assert(mFamily::NamesDiffer(games));

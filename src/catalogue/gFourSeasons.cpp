@@ -24,26 +24,19 @@ constexpr Layout CrossAndCorners = {
 
 // clang-format on
 
-struct Row {
-    std::string_view Name;
-    bool Original;
-    RuleCode HomeOrder;
-    int HomeAK;
-    EmptyFillType HomeFill;
-    SuitType Suits;
-    int GoalCards;
-    RuleCode GoalOrder;
-    GoalType GoalBase;
-    int GoalAK;
-    StockNum StockMark;
-    int Redeals;
-    bool NoAuto;
-    AutoFill Refill;
-    const Layout* Places;
-};
+// What all games of the family have in common.
+constexpr Definition shared = {
+    .HomePiles = 5, .HomeCards = 5, .GoalPiles = 4, .StockPress = OneToWaste, .Waste = yes};
+
+// The columns of the table.
+using Table =
+    mFamily::Table<&Definition::Name, &Definition::Original, &Definition::HomeOrder, &Definition::HomeAK,
+                   &Definition::HomeFill, &Definition::Suits, &Definition::GoalCards, &Definition::GoalOrder,
+                   &Definition::GoalBase, &Definition::GoalAK, &Definition::StockMark, &Definition::Redeals,
+                   &Definition::NoAuto, &Definition::Refill, &Definition::Places>;
 
 // clang-format off
-constexpr std::array<Row, 10> rows = {{
+constexpr Table::Rows<10> rows = {{
 //                               H          H  H                         G  G         G               G  S
 //   Game                   O    Order     AK  Fill       Suits      Cards  Order     Type           AK  Num       Redeals  NoAuto  AutoFill   layout
     {"Corners",             no,  Never,     0, FromStock, FourSuits,     4, UpSuit,   OneOfEachSuit,  1, Redeal,         2, yes,    FromWaste, &CrossAndCorners},
@@ -59,41 +52,7 @@ constexpr std::array<Row, 10> rows = {{
 }};
 // clang-format on
 
-constexpr Definition Complete(const Row& row) {
-    return {.Name = row.Name,
-            .Original = row.Original,
-            .HomePiles = 5,
-            .HomeCards = 5,
-            .HomeOpen = 0,
-            .HomeOrder = row.HomeOrder,
-            .HomeMulti = AsOrder,
-            .HomeAK = row.HomeAK,
-            .HomeFill = row.HomeFill,
-            .HomeMove = no,
-            .HomePattern = Rows,
-            .Suits = row.Suits,
-            .GoalPiles = 4,
-            .GoalCards = row.GoalCards,
-            .GoalOrder = row.GoalOrder,
-            .GoalBase = row.GoalBase,
-            .GoalAK = row.GoalAK,
-            .GoalUpDown = no,
-            .StockPress = OneToWaste,
-            .StockMark = row.StockMark,
-            .StockKind = Closed,
-            .Waste = yes,
-            .Deck = 52,
-            .Redeals = row.Redeals,
-            .NoAuto = row.NoAuto,
-            .GoalDiv = 0,
-            .Kind = Plain,
-            .Refill = row.Refill,
-            .Redeal = WasteToStock,
-            .MoveKings = no,
-            .Places = row.Places};
-}
-
-constexpr auto games = mFamily::CompleteAll(rows, Complete);
+constexpr auto games = Table::Complete(shared, rows);
 
 static_assert(mFamily::AllSound(games));
 static_assert(mFamily::NamesDiffer(games));

@@ -125,40 +125,21 @@ constexpr Layout SidewaysPiles4 = {
 
 // clang-format on
 
-struct Row {
-    std::string_view Name;
-    bool Original;
-    int HomePiles;
-    int HomeCards;
-    int HomeOpen;
-    RuleCode HomeOrder;
-    RuleCode HomeMulti;
-    int HomeAK;
-    EmptyFillType HomeFill;
-    HomeType HomePattern;
-    SuitType Suits;
-    int GoalPiles;
-    int GoalCards;
-    RuleCode GoalOrder;
-    GoalType GoalBase;
-    int GoalAK;
-    bool GoalUpDown;
-    StockMove StockPress;
-    StockNum StockMark;
-    StockType StockKind;
-    bool Waste;
-    int ResPiles;
-    int ResCards;
-    int ResNum;
-    int Deck;
-    bool NoAuto;
-    int GoalDiv;
-    GameType Kind;
-    const Layout* Places;
-};
+// What all games of the family have in common.
+constexpr Definition shared = {.HomeMove = yes};
+
+// The columns of the table.
+using Table = mFamily::Table<
+    &Definition::Name, &Definition::Original, &Definition::HomePiles, &Definition::HomeCards,
+    &Definition::HomeOpen, &Definition::HomeOrder, &Definition::HomeMulti, &Definition::HomeAK,
+    &Definition::HomeFill, &Definition::HomePattern, &Definition::Suits, &Definition::GoalPiles,
+    &Definition::GoalCards, &Definition::GoalOrder, &Definition::GoalBase, &Definition::GoalAK,
+    &Definition::GoalUpDown, &Definition::StockPress, &Definition::StockMark, &Definition::StockKind,
+    &Definition::Waste, &Definition::ResPiles, &Definition::ResCards, &Definition::ResNum, &Definition::Deck,
+    &Definition::NoAuto, &Definition::GoalDiv, &Definition::Kind, &Definition::Places>;
 
 // clang-format off
-constexpr std::array<Row, 65> rows = {{
+constexpr Table::Rows<65> rows = {{
 //                                        H      H     H  H            H         H  H         H                             G      G  G         G               G  G       S              S         S                       R      R  R
 //   Game                        O    Piles  Cards  Open  Order        Multi    AK  Fill      Type           Suits      Piles  Cards  Order     Type           AK  UpDown  Move           Num       Type         Waste  Piles  Cards  Num      Deck  NoAuto  GoalDiv  GameType       layout
     {"Avenue",                   yes,     8,    48,    0, DownAlt,     AsOrder,  0, AnyCard,  Rows,          FourSuits,     4,     4, UpSuit,   Aces,           0, no,     none,          none,     Closed,      no,        4,     0, OneCard,   52, no,           0, LimitedRuns,   &Piles8Goals4Res4},
@@ -235,44 +216,7 @@ constexpr std::array<Row, 65> rows = {{
 }};
 // clang-format on
 
-constexpr Definition Complete(const Row& row) {
-    return {.Name = row.Name,
-            .Original = row.Original,
-            .HomePiles = row.HomePiles,
-            .HomeCards = row.HomeCards,
-            .HomeOpen = row.HomeOpen,
-            .HomeOrder = row.HomeOrder,
-            .HomeMulti = row.HomeMulti,
-            .HomeAK = row.HomeAK,
-            .HomeFill = row.HomeFill,
-            .HomeMove = yes,
-            .HomePattern = row.HomePattern,
-            .Suits = row.Suits,
-            .GoalPiles = row.GoalPiles,
-            .GoalCards = row.GoalCards,
-            .GoalOrder = row.GoalOrder,
-            .GoalBase = row.GoalBase,
-            .GoalAK = row.GoalAK,
-            .GoalUpDown = row.GoalUpDown,
-            .StockPress = row.StockPress,
-            .StockMark = row.StockMark,
-            .StockKind = row.StockKind,
-            .Waste = row.Waste,
-            .ResPiles = row.ResPiles,
-            .ResCards = row.ResCards,
-            .ResNum = row.ResNum,
-            .Deck = row.Deck,
-            .Redeals = 0,
-            .NoAuto = row.NoAuto,
-            .GoalDiv = row.GoalDiv,
-            .Kind = row.Kind,
-            .Refill = none,
-            .Redeal = WasteToStock,
-            .MoveKings = no,
-            .Places = row.Places};
-}
-
-constexpr auto games = mFamily::CompleteAll(rows, Complete);
+constexpr auto games = Table::Complete(shared, rows);
 
 static_assert(mFamily::AllSound(games));
 static_assert(mFamily::NamesDiffer(games));

@@ -43,35 +43,21 @@ constexpr Layout Piles5Reserve = {
 
 // clang-format on
 
-struct Row {
-    std::string_view Name;
-    bool Original;
-    int HomePiles;
-    int HomeCards;
-    RuleCode HomeOrder;
-    int HomeAK;
-    EmptyFillType HomeFill;
-    bool HomeMove;
-    SuitType Suits;
-    int GoalPiles;
-    int GoalCards;
-    RuleCode GoalOrder;
-    GoalType GoalBase;
-    int GoalAK;
-    StockMove StockPress;
-    StockType StockKind;
-    int ResPiles;
-    int ResCards;
-    int ResNum;
-    int Deck;
-    bool NoAuto;
-    AutoFill Refill;
-    bool NoH2H;
-    const Layout* Places;
-};
+// What all games of the family have in common.
+constexpr Definition shared = {.StockMark = NoRedeal};
+
+// The columns of the table.
+using Table =
+    mFamily::Table<&Definition::Name, &Definition::Original, &Definition::HomePiles, &Definition::HomeCards,
+                   &Definition::HomeOrder, &Definition::HomeAK, &Definition::HomeFill, &Definition::HomeMove,
+                   &Definition::Suits, &Definition::GoalPiles, &Definition::GoalCards, &Definition::GoalOrder,
+                   &Definition::GoalBase, &Definition::GoalAK, &Definition::StockPress,
+                   &Definition::StockKind, &Definition::ResPiles, &Definition::ResCards, &Definition::ResNum,
+                   &Definition::Deck, &Definition::NoAuto, &Definition::Refill, &Definition::NoH2H,
+                   &Definition::Places>;
 
 // clang-format off
-constexpr std::array<Row, 10> rows = {{
+constexpr Table::Rows<10> rows = {{
 //                                  H      H  H         H  H          H                    G      G  G        G           G  S              S           R      R  R
 //   Game                  O    Piles  Cards  Order    AK  Fill       Move  Suits      Piles  Cards  Order    Type       AK  Move           Type    Piles  Cards  Num     Deck  NoAuto  AutoFill     NoH2H  layout
     {"Auld Lang Syne",     no,      4,     4, Never,    0, Nothing,   no,   FourSuits,     4,     4, UpAny,   Aces,       0, OneToEachPile, Closed,  none,  none, none,     52, yes,    none,        no,    &Piles4},
@@ -87,44 +73,7 @@ constexpr std::array<Row, 10> rows = {{
 }};
 // clang-format on
 
-constexpr Definition Complete(const Row& row) {
-    return {.Name = row.Name,
-            .Original = row.Original,
-            .HomePiles = row.HomePiles,
-            .HomeCards = row.HomeCards,
-            .HomeOpen = 0,
-            .HomeOrder = row.HomeOrder,
-            .HomeMulti = AsOrder,
-            .HomeAK = row.HomeAK,
-            .HomeFill = row.HomeFill,
-            .HomeMove = row.HomeMove,
-            .HomePattern = Rows,
-            .Suits = row.Suits,
-            .GoalPiles = row.GoalPiles,
-            .GoalCards = row.GoalCards,
-            .GoalOrder = row.GoalOrder,
-            .GoalBase = row.GoalBase,
-            .GoalAK = row.GoalAK,
-            .GoalUpDown = no,
-            .StockPress = row.StockPress,
-            .StockMark = NoRedeal,
-            .StockKind = row.StockKind,
-            .ResPiles = row.ResPiles,
-            .ResCards = row.ResCards,
-            .ResNum = row.ResNum,
-            .Deck = row.Deck,
-            .Redeals = 0,
-            .NoAuto = row.NoAuto,
-            .GoalDiv = 0,
-            .Kind = Plain,
-            .Refill = row.Refill,
-            .Redeal = WasteToStock,
-            .MoveKings = no,
-            .NoH2H = row.NoH2H,
-            .Places = row.Places};
-}
-
-constexpr auto games = mFamily::CompleteAll(rows, Complete);
+constexpr auto games = Table::Complete(shared, rows);
 
 static_assert(mFamily::AllSound(games));
 static_assert(mFamily::NamesDiffer(games));

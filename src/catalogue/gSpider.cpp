@@ -81,35 +81,21 @@ constexpr Layout SidewaysPiles4 = {
 
 // clang-format on
 
-struct Row {
-    std::string_view Name;
-    bool Original;
-    int HomePiles;
-    int HomeCards;
-    int HomeOpen;
-    RuleCode HomeOrder;
-    RuleCode HomeMulti;
-    int HomeAK;
-    EmptyFillType HomeFill;
-    HomeType HomePattern;
-    SuitType Suits;
-    int GoalPiles;
-    RuleCode GoalOrder;
-    GoalType GoalBase;
-    StockMove StockPress;
-    StockNum StockMark;
-    StockType StockKind;
-    bool Waste;
-    int ResPiles;
-    int ResCards;
-    int ResNum;
-    int Deck;
-    int GoalDiv;
-    const Layout* Places;
-};
+// What all games of the family have in common.
+constexpr Definition shared = {.HomeMove = yes, .NoAuto = yes, .Kind = CompleteRuns};
+
+// The columns of the table.
+using Table =
+    mFamily::Table<&Definition::Name, &Definition::Original, &Definition::HomePiles, &Definition::HomeCards,
+                   &Definition::HomeOpen, &Definition::HomeOrder, &Definition::HomeMulti, &Definition::HomeAK,
+                   &Definition::HomeFill, &Definition::HomePattern, &Definition::Suits,
+                   &Definition::GoalPiles, &Definition::GoalOrder, &Definition::GoalBase,
+                   &Definition::StockPress, &Definition::StockMark, &Definition::StockKind,
+                   &Definition::Waste, &Definition::ResPiles, &Definition::ResCards, &Definition::ResNum,
+                   &Definition::Deck, &Definition::GoalDiv, &Definition::Places>;
 
 // clang-format off
-constexpr std::array<Row, 60> rows = {{
+constexpr Table::Rows<60> rows = {{
 //                                      H      H     H  H          H           H  H         H                                 G  G         G          S              S         S                  R      R  R
 //   Game                      O    Piles  Cards  Open  Order      Multi      AK  Fill      Type               Suits      Piles  Order     Type       Move           Num       Type    Waste  Piles  Cards  Num      Deck  GoalDiv  layout
     {"Arena",                  yes,     8,    52,    0, DownSuit,  AsOrder,    0, AnyCard,  Rows,              OneSuit,       4, UpSuit,   PlainAces, none,          none,     Closed, no,     none,  none, none,      52,       0, &Piles8Goals4NoStock},
@@ -179,44 +165,7 @@ constexpr std::array<Row, 60> rows = {{
 }};
 // clang-format on
 
-constexpr Definition Complete(const Row& row) {
-    return {.Name = row.Name,
-            .Original = row.Original,
-            .HomePiles = row.HomePiles,
-            .HomeCards = row.HomeCards,
-            .HomeOpen = row.HomeOpen,
-            .HomeOrder = row.HomeOrder,
-            .HomeMulti = row.HomeMulti,
-            .HomeAK = row.HomeAK,
-            .HomeFill = row.HomeFill,
-            .HomeMove = yes,
-            .HomePattern = row.HomePattern,
-            .Suits = row.Suits,
-            .GoalPiles = row.GoalPiles,
-            .GoalCards = 0,
-            .GoalOrder = row.GoalOrder,
-            .GoalBase = row.GoalBase,
-            .GoalAK = 0,
-            .GoalUpDown = no,
-            .StockPress = row.StockPress,
-            .StockMark = row.StockMark,
-            .StockKind = row.StockKind,
-            .Waste = row.Waste,
-            .ResPiles = row.ResPiles,
-            .ResCards = row.ResCards,
-            .ResNum = row.ResNum,
-            .Deck = row.Deck,
-            .Redeals = 0,
-            .NoAuto = yes,
-            .GoalDiv = row.GoalDiv,
-            .Kind = CompleteRuns,
-            .Refill = none,
-            .Redeal = WasteToStock,
-            .MoveKings = no,
-            .Places = row.Places};
-}
-
-constexpr auto games = mFamily::CompleteAll(rows, Complete);
+constexpr auto games = Table::Complete(shared, rows);
 
 static_assert(mFamily::AllSound(games));
 static_assert(mFamily::NamesDiffer(games));

@@ -22,36 +22,20 @@ constexpr Layout Piles9Goals8Middle = {
 
 // clang-format on
 
-struct Row {
-    std::string_view Name;
-    bool Original;
-    int HomePiles;
-    int HomeCards;
-    RuleCode HomeOrder;
-    int HomeAK;
-    EmptyFillType HomeFill;
-    HomeType HomePattern;
-    SuitType Suits;
-    int GoalPiles;
-    RuleCode GoalOrder;
-    GoalType GoalBase;
-    int GoalAK;
-    StockMove StockPress;
-    StockNum StockMark;
-    StockType StockKind;
-    bool Waste;
-    int ResPiles;
-    int ResCards;
-    int ResNum;
-    int Deck;
-    bool NoAuto;
-    GameType Kind;
-    std::string_view Tag;
-    const Layout* Places;
-};
+// What all games of the family have in common.
+constexpr Definition shared = {.HomeMulti = Always, .HomeMove = yes};
+
+// The columns of the table.
+using Table = mFamily::Table<
+    &Definition::Name, &Definition::Original, &Definition::HomePiles, &Definition::HomeCards,
+    &Definition::HomeOrder, &Definition::HomeAK, &Definition::HomeFill, &Definition::HomePattern,
+    &Definition::Suits, &Definition::GoalPiles, &Definition::GoalOrder, &Definition::GoalBase,
+    &Definition::GoalAK, &Definition::StockPress, &Definition::StockMark, &Definition::StockKind,
+    &Definition::Waste, &Definition::ResPiles, &Definition::ResCards, &Definition::ResNum, &Definition::Deck,
+    &Definition::NoAuto, &Definition::Kind, &Definition::Tag, &Definition::Places>;
 
 // clang-format off
-constexpr std::array<Row, 20> rows = {{
+constexpr Table::Rows<20> rows = {{
 //                                      H      H  H            H  H         H                           G  G         G           G  S              S         S                  R      R  R
 //   Game                      O    Piles  Cards  Order       AK  Fill      Type         Suits      Piles  Order     Type       AK  Move           Num       Type    Waste  Piles  Cards  Num      Deck  NoAuto  GameType      Tag  layout
     {"Aunt Mary",              no,      6,    36, DownAlt,     0, KingOnly, YukonRows,   FourSuits,     4, UpSuit,   Aces,       0, OneToWaste,    NoRedeal, Closed, yes,    none,  none, none,      52, no,     Plain,        "",  &Piles6Goals4},
@@ -77,45 +61,7 @@ constexpr std::array<Row, 20> rows = {{
 }};
 // clang-format on
 
-constexpr Definition Complete(const Row& row) {
-    return {.Name = row.Name,
-            .Original = row.Original,
-            .HomePiles = row.HomePiles,
-            .HomeCards = row.HomeCards,
-            .HomeOpen = 0,
-            .HomeOrder = row.HomeOrder,
-            .HomeMulti = Always,
-            .HomeAK = row.HomeAK,
-            .HomeFill = row.HomeFill,
-            .HomeMove = yes,
-            .HomePattern = row.HomePattern,
-            .Suits = row.Suits,
-            .GoalPiles = row.GoalPiles,
-            .GoalCards = 0,
-            .GoalOrder = row.GoalOrder,
-            .GoalBase = row.GoalBase,
-            .GoalAK = row.GoalAK,
-            .GoalUpDown = no,
-            .StockPress = row.StockPress,
-            .StockMark = row.StockMark,
-            .StockKind = row.StockKind,
-            .Waste = row.Waste,
-            .ResPiles = row.ResPiles,
-            .ResCards = row.ResCards,
-            .ResNum = row.ResNum,
-            .Deck = row.Deck,
-            .Redeals = 0,
-            .NoAuto = row.NoAuto,
-            .GoalDiv = 0,
-            .Kind = row.Kind,
-            .Refill = none,
-            .Redeal = WasteToStock,
-            .MoveKings = no,
-            .Tag = row.Tag,
-            .Places = row.Places};
-}
-
-constexpr auto games = mFamily::CompleteAll(rows, Complete);
+constexpr auto games = Table::Complete(shared, rows);
 
 static_assert(mFamily::AllSound(games));
 static_assert(mFamily::NamesDiffer(games));
