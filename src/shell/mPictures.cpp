@@ -153,10 +153,14 @@ QPixmap Inverted(const QPixmap& picture) {
 }
 
 void DrawAtWholePixels(QPainter& painter, const QPixmap& picture) {
+    // A place half-way between two pixels must come to the same one in every repaint, though the last digits
+    // of the transform depend on what is painted: otherwise a repaint beside a card cuts off its edge.
+    constexpr double Noise = 1e-6;
+    const auto whole = [](double place) { return std::floor(place + 0.5 + Noise); };
     const QPointF origin = painter.deviceTransform().map(QPointF(0, 0));
     painter.save();
     ToDevicePixels(painter);
-    painter.drawPixmap(QPointF(std::round(origin.x()), std::round(origin.y())), picture);
+    painter.drawPixmap(QPointF(whole(origin.x()), whole(origin.y())), picture);
     painter.restore();
 }
 
