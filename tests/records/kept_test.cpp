@@ -1,4 +1,5 @@
-// What happens to records when files fail: nothing is lost, nobody is held up, and the user is told.
+// The record of a game: its line, and what happens when files fail. Nothing is lost, nobody is held up, and
+// the user is told.
 #include <string>
 #include <vector>
 
@@ -6,11 +7,13 @@
 #include <gtest/gtest.h>
 
 #include "Records.h"
+#include "state/mGen.h"
 #include "state/mLoad.h"
 #include "table/mMain.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::SizeIs;
 
 namespace {
@@ -21,16 +24,13 @@ public:
     [[nodiscard]] FileError AppendLines(const std::string& path,
                                         const std::vector<std::string>& lines) override {
         ++Writes;
-        if (Broken(path)) return "No space left on device";
-        return MemoryFiles::AppendLines(path, lines);
+        return Broken(path) ? "No space left on device" : MemoryFiles::AppendLines(path, lines);
     }
     [[nodiscard]] FileError Read(const std::string& path, std::string& content) const override {
-        if (Broken(path)) return "Input/output error";
-        return MemoryFiles::Read(path, content);
+        return Broken(path) ? "Input/output error" : MemoryFiles::Read(path, content);
     }
     [[nodiscard]] FileError Remove(const std::string& path) override {
-        if (Broken(path)) return "Permission denied";
-        return MemoryFiles::Remove(path);
+        return Broken(path) ? "Permission denied" : MemoryFiles::Remove(path);
     }
     [[nodiscard]] bool Broken(const std::string& path) const {
         return !Fails.empty() && path.find(Fails) != std::string::npos;
@@ -43,11 +43,8 @@ public:
 class Kept : public testing::Test {
 protected:
     Kept() {
-        mLoad::Main({outside_.Stage, outside_.Settings, files_, outside_.Calendar, outside_.Sounds,
-                     outside_.Forms, outside_.Help});
-        mMain::Load();
+        Start();
         gData->SetPlayer(2, "Bob", false);
-        gData->Figures.CurGName = "Klondike";
     }
     ~Kept() override {
         files_.Fails.clear();
@@ -56,22 +53,26 @@ protected:
     Kept(const Kept&) = delete;
     Kept& operator=(const Kept&) = delete;
 
-    void Play(const std::string& player, double number) {
-        gData->SetCurPlayer(player);
-        gData->Figures.CurGNo = number;
-        gScore->AddScore(1);
+    void Start() {
+        mLoad::Main({outside_.Stage, outside_.Settings, files_, outside_.Calendar, outside_.Sounds,
+                     outside_.Forms, outside_.Help});
+        mMain::Load();
     }
-    [[nodiscard]] std::string Numbers(const std::string& player) const {
-        std::string numbers;
-        const auto found = files_.Contents.find(cScore::FileName(player));
-        if (found == files_.Contents.end()) return numbers;
-        mScoreFile::ForEachLine(found->second, [&](std::string_view line) {
-            mScoreFile::ScoreFields fields;
-            if (!mScoreFile::ParseScore(line, fields)) return false;
-            numbers += std::string(fields.GameNo.Text) + " ";
-            return true;
-        });
-        return numbers;
+    void Play(const std::string& player, const GameNumber& number, int won = 1) {
+        gData->SetCurPlayer(player);
+        gData->Figures.CurGName = "Klondike";
+        gData->Figures.CurGNo = number;
+        mGen::CloseGame(won);
+    }
+    std::string& File(const std::string& player) {
+        return files_.Contents["/data/Kelmor/Tarnival 2004 11.0/" + player + ".sre"];
+    }
+    // The lines of won games with these numbers and no figures.
+    static std::string Lines(std::initializer_list<const char*> numbers) {
+        std::string lines;
+        for (const std::string number : numbers)
+            lines += "\"2004-01-01 00:00:00\",\"Klondike\"," + number + ",0,0,0,1\r\n";
+        return lines;
     }
     [[nodiscard]] std::vector<std::string>& Messages() { return outside_.Forms.Messages; }
 
@@ -83,54 +84,69 @@ TEST_F(Kept, ARecordIsALineOfTheCurrentPlayersFile) {
     gData->Figures.CurTime = 3600;
     gData->Figures.CurMoves = 120;
     gData->Figures.CurScore = -15;
-    Play("Player1", 77);
-    gData->Figures.CurGNo = std::string("88");
-    gScore->AddScore(0);
-    EXPECT_EQ(files_.Contents[cScore::FileName("Player1")],
-              "\"2004-01-01 00:00:00\",\"Klondike\",77,3600,120,-15,1\r\n"
-              "\"2004-01-01 00:00:00\",\"Klondike\",\"88\",3600,120,-15,0\r\n");
+    outside_.Calendar.Advance(3661);
+    File("Player1") = "\"2003-05-05 10:00:00\",\"Klond";  // torn: it is ended first
+    Play("Player1", 123456789012345.0);
+    Play("Bob", 1.0, 0);
+    Play("Player1", std::string("0042"), 0);
+    EXPECT_EQ(File("Player1"),
+              "\"2003-05-05 10:00:00\",\"Klond\r\n"
+              "\"2004-01-01 01:01:01\",\"Klondike\",123456789012345,3600,120,-15,1\r\n"
+              "\"2004-01-01 01:01:01\",\"Klondike\",\"0042\",3600,120,-15,0\r\n");
+    EXPECT_EQ(File("Bob"), "\"2004-01-01 01:01:01\",\"Klondike\",1,3600,120,-15,0\r\n");
     EXPECT_EQ(gScore->ScoreTop(), 0);
+    EXPECT_EQ(gScore->SesStat(),
+              (tStat{.Played = 3, .Won = 1, .Lost = 2, .Score = -45, .Moves = 360, .Time = 10800}));
+    EXPECT_EQ(gScore->GetSes(2).Player, "Bob");
+    EXPECT_THROW((void)gScore->GetSes(4), std::out_of_range);
 }
 
 TEST_F(Kept, WhatCannotBeWrittenWaitsInOrderAndHoldsNobodyElseUp) {
     files_.Fails = "Player1";
-    Play("Player1", 1);
-    ASSERT_THAT(Messages(), SizeIs(1));
-    EXPECT_EQ(Messages()[0],
-              "The record of this game could not be written to " + cScore::FileName("Player1") +
-                  ": No space left on device\nIt is kept and will be written with the next record.");
-    Play("Player1", 2);
-    Play("Bob", 3);
-    EXPECT_EQ(Numbers("Bob"), "3 ");
-    EXPECT_EQ(Numbers("Player1"), "");
+    Play("Player1", 1.0);
+    EXPECT_THAT(
+        Messages(),
+        ElementsAre("The record of this game could not be written to " + cScore::FileName("Player1") +
+                    ": No space left on device\nIt is kept and will be written with the next record."));
+    Play("Player1", 2.0);
+    Play("Bob", 3.0);
+    EXPECT_EQ(File("Bob"), Lines({"3"}));
+    EXPECT_EQ(File("Player1"), "");
     EXPECT_THAT(Messages().back(), HasSubstr("What was kept from before could not be written"));
     EXPECT_FALSE(gScore->WriteKept());
     files_.Fails.clear();
     files_.Writes = 0;
-    Play("Player1", 4);
-    EXPECT_EQ(Numbers("Player1"), "1 2 4 ");
+    Play("Player1", 4.0);
+    EXPECT_EQ(File("Player1"), Lines({"1", "2", "4"}));
     EXPECT_EQ(files_.Writes, 1) << "the lines of a file go out with one write";
     EXPECT_THAT(Messages(), SizeIs(3));
     EXPECT_TRUE(gScore->WriteKept());
+    EXPECT_EQ(gScore->SesTop(), 4);
 }
 
-TEST_F(Kept, AViewContainsWhatWaited) {
+TEST_F(Kept, AViewAndTheEndTakeAlongWhatWaited) {
     files_.Fails = ".sre";
-    Play("Bob", 1);
+    Play("Bob", 1.0);
     files_.Fails.clear();
     gScore->OpenAllScore();
     EXPECT_EQ(gScore->PlayerStat("Bob").Played, 1);
+    files_.Fails = ".sre";
+    Play("Bob", 2.0);
+    files_.Fails.clear();
+    mLoad::UnloadMain();
+    EXPECT_THAT(outside_.Forms.Questions, IsEmpty());
+    EXPECT_EQ(File("Bob"), Lines({"1", "2"}));
 }
 
 TEST_F(Kept, FollowsARenamedPlayerAndGoesWithADeletedOne) {
     files_.Fails = ".sre";
-    Play("Player1", 1);
-    Play("Bob", 2);
+    Play("Player1", 1.0);
+    Play("Bob", 2.0);
     files_.Fails.clear();
     EXPECT_EQ(gScore->RenameScore("Player1", "Ann"), std::nullopt);
     EXPECT_EQ(gScore->DeleteScore("Bob"), std::nullopt);
     EXPECT_TRUE(gScore->WriteKept());
-    EXPECT_EQ(Numbers("Ann"), "1 ");
+    EXPECT_EQ(File("Ann"), Lines({"1"}));
     EXPECT_FALSE(files_.Exists(cScore::FileName("Player1")));
     EXPECT_FALSE(files_.Exists(cScore::FileName("Bob")));
 }
@@ -145,23 +161,38 @@ TEST_F(Kept, AFavouriteWaitsToo) {
 }
 
 TEST_F(Kept, FilesThatCannotBeReadOrDeletedAreNamed) {
-    Play("Player1", 1);
-    Play("Bob", 2);
+    Play("Player1", 1.0);
+    Play("Bob", 2.0);
     files_.Fails = "Player1";
     gScore->OpenAllScore();
     gScore->ReportUnread();
-    ASSERT_THAT(Messages(), SizeIs(1));
-    EXPECT_EQ(Messages()[0],
-              "The file " + cScore::FileName("Player1") + " could not be read: Input/output error");
     EXPECT_EQ(gScore->ScoreTop(), 1);
-
     outside_.Forms.Answer = true;
     gScore->ClearStat();
-    ASSERT_THAT(Messages(), SizeIs(2));
-    EXPECT_THAT(Messages()[1],
-                HasSubstr(cScore::FileName("Player1") + " could not be deleted: Permission denied"));
-    EXPECT_TRUE(files_.Exists(cScore::FileName("Player1")));
+    const std::string file = cScore::FileName("Player1");
+    EXPECT_THAT(Messages(), ElementsAre("The file " + file + " could not be read: Input/output error",
+                                        HasSubstr(file + " could not be deleted: Permission denied")));
+    EXPECT_TRUE(files_.Exists(file));
     EXPECT_FALSE(files_.Exists(cScore::FileName("Bob")));
+}
+
+// The end of the program asks before it gives a record up; closing it in a game records a loss, with the
+// figures of the last tick.
+TEST_F(Kept, TheEndOfTheProgram) {
+    mGen::StartGame("Klondike", 1.0);
+    outside_.Calendar.Advance(10);
+    mMain::TickTime();
+    outside_.Calendar.Advance(10);
+    mLoad::UnloadMain();
+    EXPECT_THAT(File("Player1"), testing::MatchesRegex("\"2004-01-01 00:00:20\",\"Klondike\",1,10,.*,0\r\n"));
+    mLoad::UnloadMain();  // a second time does no harm
+    EXPECT_THAT(outside_.Forms.Questions, IsEmpty());
+    Start();
+    files_.Fails = ".sre";
+    Play("Player1", 2.0);
+    mLoad::UnloadMain();
+    EXPECT_THAT(outside_.Forms.Questions, SizeIs(1));
+    EXPECT_EQ(gScore, nullptr);
 }
 
 }  // namespace

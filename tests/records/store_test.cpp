@@ -105,7 +105,6 @@ TEST(Store, SortRanksPositiveScoresAndTheLaterOfEqualsAbove) {
     }
     EXPECT_EQ(gScore->GetTop(0), tScore{});
     EXPECT_THROW((void)gScore->GetTop(21), std::out_of_range);
-    EXPECT_THROW((void)gScore->GetTop(-1), std::out_of_range);
 }
 
 TEST(Store, TwentyPlacesAreKept) {
@@ -173,14 +172,12 @@ TEST(Store, DateStatCountsCalendarPeriods) {
         {"1/31/2004 11:00:00 AM", "d", 2, "Jan 31"}, {"some day", "d", 0, "some day"},
     };
     for (const Row& row : rows) {
+        const int n = row.Played;
         const tDateStat stat = gScore->DateStat(row.Date, row.Interval);
-        EXPECT_EQ(stat.Played, row.Played) << row.Date << " " << row.Interval;
         EXPECT_EQ(stat.Label, row.Label);
-        EXPECT_EQ(stat.Won, row.Played);
-        EXPECT_EQ(stat.Lost, 0);
-        EXPECT_EQ(stat.Score, 10 * row.Played);
-        EXPECT_EQ(stat.Moves, 5 * row.Played);
-        EXPECT_EQ(stat.Time, 60 * row.Played);
+        EXPECT_EQ((std::vector{stat.Played, stat.Won, stat.Lost, stat.Score, stat.Moves, stat.Time}),
+                  (std::vector{n, n, 0, 10 * n, 5 * n, 60 * n}))
+            << row.Date << " " << row.Interval;
     }
     EXPECT_THROW((void)gScore->DateStat("2004-01-31", "w"), std::out_of_range);
     EXPECT_EQ(gScore->TotalStat().Played, 7) << "a date that nothing can read counts in all other totals";

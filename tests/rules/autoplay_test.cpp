@@ -1,301 +1,139 @@
 // What the table does by itself: complete runs, the foundation pass, refills.
-#include <string>
-#include <vector>
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "rules/mPlay.h"
 #include "shell/cData.h"
 #include "state/cArray.h"
-#include "state/cTrans.h"
-#include "support/Fixture.h"
+#include "state/codes.h"
+#include "support/Script.h"
 #include "table/mMain.h"
 
 namespace {
 
-using mPosition::Card;
 using testing::Each;
 using testing::SizeIs;
 
-// The moved cards in their order, with the foundations that they went to: "AS>0".
-std::string Moves() {
-    std::string text;
-    for (int i = 1; i <= gTrans->GetTransID(); ++i) {
-        const TransRec& record = gTrans->Record(i);
-        text += (i > 1 ? " " : "") + mPosition::Name(record.PicID) + (record.DCell == Goal ? ">" : ">pile ") +
-                std::to_string(record.DPile);
-    }
-    return text;
-}
-
-class Autoplay : public testing::Test {
+class Autoplay : public RulesTest {
 protected:
-    Engine engine_;
+    void SetUp() override { gData->Set(Setting::Autoplay, 1); }
 };
 
-TEST_F(Autoplay, AChainGoesUpAndEachCardIsAMove) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "3S");
-    mPosition::Lay(Home, 1, "(2H) 2S");
-    mPosition::Lay(Home, 2, "9C AS");
-    mPosition::Lay(Home, 3, "(AH) 4S");
-    engine_.Layer.Sounds.Played.clear();
-    mPlay::AutoPlayAll();
-    // The Ace first; then from the lowest pile, again after each card: nothing waits.
-    EXPECT_EQ(Moves(), "AS>0 2S>0 3S>0 4S>0 AH>1 2H>1");
-    EXPECT_EQ(mPosition::Pile(Home, 2), "9C");
-    EXPECT_EQ(gTrans->Record(2).tMod, tMod::Uncover);
-    EXPECT_THAT(engine_.Layer.Sounds.Played, SizeIs(6));
-    EXPECT_THAT(engine_.Layer.Sounds.Played, Each("AUTOPLAY"));
-}
-
-TEST_F(Autoplay, TheOrderOfThePass) {
-    TestGame game;
-    game.Res.Piles = 2;
-    game.Stock.StockType = StockType::Open;
-    mPosition::Begin(game);
-    mPosition::Lay(Stock, 0, "AC");
-    mPosition::Lay(Waste, 0, "AD");
-    mPosition::Lay(Res, 1, "AS");
-    mPosition::Lay(Home, 3, "AH");
-    mPlay::AutoPlayAll();
-    EXPECT_EQ(Moves(), "AH>0 AS>1 AD>2 AC>3");
-}
-
-TEST_F(Autoplay, OnlyAnOpenStockIsOffered) {
-    mPosition::Begin({});
-    mPosition::Lay(Stock, 0, "(AC)");
-    mPlay::AutoPlayAll();
-    EXPECT_EQ(gTrans->GetTransID(), 0);
-}
-
-TEST_F(Autoplay, TwoDecksGoToTheLowestPileThatFits) {
-    TestGame game;
-    game.Goal.Piles = 8;
-    game.Ext.Cards = 104;
-    mPosition::Begin(game);
-    mPosition::Lay(Goal, 2, "AS");
-    mPosition::Lay(Goal, 5, "AS'");
-    mPosition::Lay(Home, 0, "2S'");
-    mPosition::Lay(Home, 1, "AH");
-    mPlay::AutoPlayAll();
-    EXPECT_EQ(Moves(), "2S'>2 AH>0");
-}
-
-TEST_F(Autoplay, ClosedTopCardsGoToo) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "9C (AS)");
-    mPlay::AutoPlayAll();
-    EXPECT_EQ(mPosition::Pile(Goal, 0), "AS");
-    mMain::Undo(0);
-    EXPECT_EQ(mPosition::Pile(Home, 0), "9C (AS)") << "closed as it lay";
-    mMain::Redo(0);
-    EXPECT_EQ(mPosition::Pile(Goal, 0), "AS");
+TEST_F(Autoplay, TheFoundationPass) {
+    Expect({
+        {"a chain goes up, and each card is a move",
+         "H0 3S; H1 (2H) 2S; H2 9C AS; H3 (AH) 4S | auto | H2 9C; G0 AS-4S; G1 AH 2H #6"},
+        {"closed top cards go too", "H0 9C (AS) | auto | H0 9C; G0 AS | undo | = | redo | H0 9C; G0 AS"},
+        {"no closed stock is offered", "S (AC) | auto | ="},
+        {"Undo starts no pass, the next move does",
+         "H0 5C AS 9H; H1 TC; H2 2D | 9H>H1 | H0 5C; H1 TC 9H; H2 2D; G0 AS #2 | undo | H0 5C AS; H1 TC 9H; "
+         "H2 2D #1 "
+         "| 2D>H3 | H0 5C; H1 TC 9H; H3 2D; G0 AS #3"},
+    });
+    EXPECT_THAT(engine_.Layer.Sounds.Played, testing::Contains("AUTOPLAY"));
+    game_.Res.Piles = 2;
+    game_.Stock.StockType = StockType::Open;
+    Expect({{"tableau, reserve, waste, open stock",
+             "S AC; W AD; R1 AS; H3 AH | auto | G0 AH; G1 AS; G2 AD; G3 AC #4"}});
+    game_.Ext.Cards = 104;
+    game_.Goal.Piles = 8;
+    Expect(
+        {{"to the lowest pile that fits", "G2 AS; G5 AS'; H0 2S'; H1 AH | auto | G0 AH; G2 AS 2S'; G5 AS'"}});
 }
 
 TEST_F(Autoplay, SettingAndGameSwitchItOffButNotTheRefill) {
-    struct Row {
-        int Setting;
-        bool Disabled;
-        bool GoesUp;
-    };
-    for (const Row& row : {Row{1, false, true}, Row{0, false, false}, Row{1, true, false}}) {
-        gData->Set(Setting::Autoplay, row.Setting);
-        TestGame game;
-        game.Ext.cDisAutoPlay = row.Disabled;
-        game.Ext.cAutoFill = AutoFill::FromWaste;
-        mPosition::Begin(game);
-        mPosition::Lay(Home, 0, "5C AS");
-        mPosition::Lay(Home, 1, "6C");
-        mPosition::Lay(Home, 2, "7C");
-        mPosition::Lay(Waste, 0, "9D");
-        mPlay::AutoPlayAll();
-        EXPECT_EQ(mPosition::Pile(Goal, 0), row.GoesUp ? "AS" : "");
-        EXPECT_EQ(mPosition::Pile(Home, 3), "9D");
-    }
+    game_.Ext.cAutoFill = AutoFill::FromWaste;
+    game_.Home.Piles = 2;
+    const std::string table = "H0 5C AS; W 9D | auto | ";
+    Expect({{"on", table + "H0 5C; H1 9D; G0 AS"}});
+    gData->Set(Setting::Autoplay, 0);
+    Expect({{"off by the setting", table + "H0 5C AS; H1 9D"}});
+    gData->Set(Setting::Autoplay, 1);
+    game_.Ext.cDisAutoPlay = true;
+    Expect({{"off by the game", table + "H0 5C AS; H1 9D"}});
 }
 
 TEST_F(Autoplay, SwitchingOnRunsAPassAtOnce) {
     mPosition::Begin({});
-    mPosition::Lay(Home, 0, "5C AS");
+    mScript::Lay("H0 5C AS");
+    engine_.Layer.Sounds.Played.clear();
     mMain::FlipAutoplay();
     EXPECT_EQ(gData->Get(Setting::Autoplay), 0);
-    EXPECT_EQ(gTrans->GetTransID(), 0);
+    EXPECT_EQ(mPosition::Pile(Home, 0), "5C AS");
     mMain::FlipAutoplay();
     EXPECT_EQ(gData->Get(Setting::Autoplay), 1);
-    EXPECT_EQ(Moves(), "AS>0");
-}
-
-// What Undo put back goes up again with the next played move, not before.
-TEST_F(Autoplay, UndoStartsNoPass) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "5C AS 9H");
-    mPosition::Lay(Home, 1, "TC");
-    mPosition::Lay(Home, 2, "2D");
-    ASSERT_TRUE(mPosition::DragTo(Card("9H"), Home, 1));
-    EXPECT_EQ(Moves(), "9H>pile 1 AS>0");
-    mMain::Undo(0);
-    EXPECT_EQ(mPosition::Pile(Home, 0), "5C AS");
-    ASSERT_TRUE(mPosition::DragTo(Card("2D"), Home, 3));
-    EXPECT_EQ(Moves(), "9H>pile 1 2D>pile 3 AS>0");
-}
-
-TEST_F(Autoplay, AFullFoundationOfAWrappingGameRefuses) {
-    TestGame game;
-    game.Goal.AK = -1;
-    game.Goal.Piles = 4;
-    game.Ext.Cards = 104;
-    mPosition::Begin(game);
-    mPosition::Lay(Goal, 0, "AS-KS");
-    mPosition::Lay(Home, 0, "AS'");
-    gGoalBase = 5;
-    mPlay::AutoPlayAll();
-    EXPECT_EQ(gArray->GetTop(Goal, 0), 12);
-    EXPECT_EQ(gTrans->GetTransID(), 0);
-    EXPECT_EQ(mPosition::Pile(Home, 0), "AS'");
+    EXPECT_EQ(mPosition::Pile(Goal, 0), "AS");
+    EXPECT_THAT(engine_.Layer.Sounds.Played, testing::ElementsAre("AUTOPLAY"));
 }
 
 TEST_F(Autoplay, CompleteRuns) {
-    struct Row {
-        const char* Rule;
-        RuleCode Order;
-        GoalType Base;
-        const char* Pile;
-        const char* Left;  // of the pile
-    };
-    constexpr const char* alternating = "KS QH JS TH 9S 8H 7S 6H 5S 4H 3S 2H AS";
-    const Row rows[] = {
-        {"thirteen of a suit", RuleCode::UpSuit, GoalType::Aces, "KS-AS", ""},
-        {"on top of another card, which opens", RuleCode::UpSuit, GoalType::Aces, "(4H) KS-AS", "4H"},
-        {"a wrong card at the bottom", RuleCode::UpSuit, GoalType::Aces, "KH QS-AS", "="},
-        {"the wrong way round", RuleCode::UpSuit, GoalType::Aces, "AS-KS", "="},
-        {"a King on top of thirteen", RuleCode::UpSuit, GoalType::Aces, "QS-AS KS", "="},
-        {"twelve cards", RuleCode::UpSuit, GoalType::Aces, "QS-AS", "="},
-        {"two suits", RuleCode::UpSuit, GoalType::Aces, alternating, "="},
-        {"alternate colours where they build so", RuleCode::UpAlt, GoalType::Aces, alternating, ""},
-        {"built down from the Kings", RuleCode::DownSuit, GoalType::Kings, "AS-KS", ""},
-        {"built down from the Kings: not from an Ace", RuleCode::DownSuit, GoalType::Kings, "KS-AS", "="},
-    };
+    const std::string alternating = "KS QH JS TH 9S 8H 7S 6H 5S 4H 3S 2H AS";
     gData->Set(Setting::Autoplay, 0);
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.Rule);
-        TestGame game;
-        game.Ext.GameType = GameType::CompleteRuns;
-        game.Ext.cDisAutoPlay = true;
-        game.Goal.Order = row.Order;
-        game.Goal.GoalType = row.Base;
-        mPosition::Begin(game);
-        mPosition::Lay(Home, 1, row.Pile);
-        const std::string before = mPosition::Pile(Home, 1);
-        mPlay::AutoPlayAll();
-        const bool stays = std::string(row.Left) == "=";
-        EXPECT_EQ(mPosition::Pile(Home, 1), stays ? before : row.Left);
-        EXPECT_EQ(gTrans->GetTransID(), stays ? 0 : 13);
-        mMain::Undo(0);
-        EXPECT_EQ(mPosition::Pile(Home, 1), before) << "one step";
-        EXPECT_EQ(gTrans->GetTransID(), 0);
-    }
+    game_.Ext.GameType = GameType::CompleteRuns;
+    game_.Ext.cDisAutoPlay = true;
+    game_.Goal.Piles = 8;
+    Expect({
+        {"thirteen of a suit, as one step", "H1 KS-AS | auto | G1 AS-KS #13 | undo | ="},
+        {"on top of another card, which opens", "H1 (4H) KS-AS | auto | H1 4H; G1 AS-KS"},
+        {"two at once, nested, as one step",
+         "H0 (9H) KS-AS; H1 KC-AC | auto | H0 9H; G1 AS-KS; G3 AC-KC #26 | undo | ="},
+        {"not with a wrong card at the bottom", "H1 KH QS-AS | auto | ="},
+        {"not the wrong way round", "H1 AS-KS | auto | ="},
+        {"not with a King on top of thirteen", "H1 QS-AS KS | auto | ="},
+        {"not of twelve cards", "H1 QS-AS | auto | ="},
+        {"not of two suits", "H1 " + alternating + " | auto | ="},
+    });
+    game_.Goal.Order = RuleCode::UpAlt;
+    Expect({{"alternate colours where they build so",
+             "H1 " + alternating + " | auto | G1 AS 2H 3S 4H 5S 6H 7S 8H 9S TH JS QH KS"}});
+    game_.Goal.Order = RuleCode::DownSuit;
+    game_.Goal.GoalType = GoalType::Kings;
+    Expect({
+        {"built down from the Kings", "H1 AS-KS | auto | G1 KS-AS"},
+        {"built down from the Kings: not from an Ace", "H1 KS-AS | auto | ="},
+    });
 }
 
 TEST_F(Autoplay, WhereCompleteRunsGo) {
     struct Row {
-        int Div;
-        int Piles;
+        int Div, Piles;
         const char* Run;
-        int Pile;
+        const char* Pile;
     };
-    for (const Row& row : {Row{0, 8, "KD'-AD'", 6}, Row{4, 4, "KD'-AD'", 2}, Row{0, 1, "KC-AC", 3},
-                           Row{8, 1, "KC'-AC'", 7}, Row{2, 2, "KC-AC", 1}}) {
-        TestGame game;
-        game.Ext.Cards = 104;
-        game.Ext.GameType = GameType::CompleteRuns;
-        game.Ext.cDisAutoPlay = true;
-        game.Ext.GoalDiv = row.Div;
-        game.Goal.Piles = row.Piles;
-        mPosition::Begin(game);
-        mPosition::Lay(Goal, row.Pile, "AS-KS");
-        mPosition::Lay(Home, 0, row.Run);
-        mPlay::AutoPlayAll();
-        EXPECT_EQ(gArray->GetTop(Goal, row.Pile), 25) << "on top of what lies there";
-        const std::string run = row.Run;
-        EXPECT_EQ(mPosition::Name(gArray->GetTopPicID(Goal, row.Pile)), run.substr(0, run.find('-')));
+    game_.Ext.Cards = 104;
+    game_.Ext.GameType = GameType::CompleteRuns;
+    game_.Ext.cDisAutoPlay = true;
+    for (const Row& row : {Row{0, 8, "D'", "G6"}, Row{4, 4, "D'", "G2"}, Row{0, 1, "C", "G3"},
+                           Row{8, 1, "C'", "G7"}, Row{2, 2, "C", "G1"}}) {
+        game_.Ext.GoalDiv = row.Div;
+        game_.Goal.Piles = row.Piles;
+        const std::string suit = row.Run;
+        const std::string there = std::string(row.Pile) + " AS-KS";
+        Expect({{"on top of what lies there",
+                 there + "; H0 K" + suit + "-A" + suit + " | auto | " + there + " A" + suit + "-K" + suit}});
     }
-}
-
-// The last card of one run uncovers nothing, but two runs can stand complete at once: they leave in one
-// pass, nested, and one step takes both back.
-TEST_F(Autoplay, TwoCompleteRunsAtOnce) {
-    TestGame game;
-    game.Ext.GameType = GameType::CompleteRuns;
-    game.Ext.cDisAutoPlay = true;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "(9H) KS-AS");
-    mPosition::Lay(Home, 1, "(8H) KC-AC");
-    mPlay::AutoPlayAll();
-    EXPECT_EQ(gArray->TotalGoalCards(), 26);
-    EXPECT_EQ(gTrans->GetTransID(), 26);
-    mMain::Undo(0);
-    EXPECT_EQ(gTrans->GetTransID(), 0);
-    EXPECT_EQ(mPosition::Pile(Home, 1).substr(0, 7), "(8H) KC");
-    EXPECT_EQ(mPosition::Pile(Home, 0).substr(0, 7), "(9H) KS");
-    mMain::Redo(0);
-    EXPECT_EQ(gArray->TotalGoalCards(), 26);
-    EXPECT_EQ(mPosition::Pile(Home, 0), "9H");
 }
 
 TEST_F(Autoplay, Refills) {
-    struct Row {
-        const char* Rule;
-        AutoFill Fill;
-        const char* Waste;
-        const char* Stock;
-        const char* Reserve;
-        const char* Tableau;  // piles 2 and 3, which were empty
-    };
-    const Row rows[] = {
-        {"from the waste", AutoFill::FromWaste, "5C 9D", "", "7C", "9D | 5C"},
-        {"then from the stock", AutoFill::FromWaste, "9D", "(4C) (3C)", "", "9D | 3C"},
-        {"as far as cards reach", AutoFill::FromWaste, "", "(3C)", "", "3C | "},
-        {"nothing to fill with", AutoFill::FromWaste, "", "", "7C", " | "},
-        {"from the reserve", AutoFill::FromReserve, "5C", "", "7C 8C", "8C | 7C"},
-        {"the reserve is empty", AutoFill::FromReserve, "5C", "(3C)", "", " | "},
-        {"none", AutoFill::None, "5C", "(3C)", "7C", " | "},
-        {"the code that means none", AutoFill::NoneEither, "5C", "(3C)", "7C", " | "},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.Rule);
-        TestGame game;
-        game.Ext.cAutoFill = row.Fill;
-        game.Res.Piles = 1;
-        // Not a drop: what the player may put there plays no part.
-        game.Home.EmptyFillType = EmptyFillType::Nothing;
-        mPosition::Begin(game);
-        mPosition::Lay(Home, 0, "KH");
-        mPosition::Lay(Home, 1, "QH");
-        mPosition::Lay(Waste, 0, row.Waste);
-        mPosition::Lay(Stock, 0, row.Stock);
-        mPosition::Lay(Res, 0, row.Reserve);
-        mPlay::AutoPlayAll();
-        EXPECT_EQ(mPosition::Pile(Home, 2) + " | " + mPosition::Pile(Home, 3), row.Tableau);
+    game_.Home.Piles = 3;
+    game_.Res.Piles = 1;
+    game_.Home.EmptyFillType = EmptyFillType::Nothing;  // not a drop: what may lie there plays no part
+    game_.Ext.cAutoFill = AutoFill::FromWaste;
+    Expect({
+        {"from the waste", "H0 KH; W 5C 9D; R0 7C | auto | H0 KH; H1 9D; H2 5C; R0 7C"},
+        {"then from the stock",
+         "H0 KH; S (4C) (3C); W 9D | auto | H0 KH; H1 9D; H2 3C; S (4C) | undo redo | H0 KH; H1 9D; H2 3C; S "
+         "(4C)"},
+        {"as far as the cards reach", "H0 KH; S (3C) | auto | H0 KH; H1 3C"},
+        {"nothing to fill with", "H0 KH; R0 7C | auto | ="},
+    });
+    game_.Ext.cAutoFill = AutoFill::FromReserve;
+    Expect({
+        {"from the reserve", "H0 KH; W 5C; R0 7C 8C | auto | H0 KH; H1 8C; H2 7C; W 5C"},
+        {"the reserve is empty", "H0 KH; S (3C); W 5C | auto | ="},
+    });
+    for (const AutoFill none : {AutoFill::None, AutoFill::NoneEither}) {
+        game_.Ext.cAutoFill = none;
+        Expect({{"none", "H0 KH; S (3C); W 5C; R0 7C | auto | ="}});
     }
-}
-
-// A card of the stock that refills is logged as dealt, so that Undo closes it again.
-TEST_F(Autoplay, ARefillFromTheStockCanBeUndone) {
-    TestGame game;
-    game.Ext.cAutoFill = AutoFill::FromWaste;
-    game.Home.Piles = 3;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "KH");
-    mPosition::Lay(Home, 1, "QH");
-    mPosition::Lay(Stock, 0, "(4C)");
-    mPlay::AutoPlayAll();
-    EXPECT_EQ(mPosition::Pile(Home, 2), "4C");
-    mMain::Undo(0);
-    EXPECT_EQ(mPosition::Pile(Stock, 0), "(4C)");
-    mMain::Redo(0);
-    EXPECT_EQ(mPosition::Pile(Home, 2), "4C");
 }
 
 }  // namespace

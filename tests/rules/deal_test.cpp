@@ -75,22 +75,18 @@ TEST(Deal, TheFirstCardIsTheBase) {
     const Engine engine;
     TestGame game;
     game.Goal.GoalType = GoalType::FirstCard;
-    game.Goal.Cards = 4;
-    mPosition::Deal(game, 11);
-    EXPECT_EQ(gGoalBase, mFunc::CardNum(0));
-    EXPECT_EQ(gArray->GetPicID(Goal, 0, 0), 0);
-    for (int pile = 0; pile < 4; ++pile) {
-        EXPECT_EQ(mFunc::CardNum(gArray->GetPicID(Goal, pile, 0)), gGoalBase);
-        if (pile > 0) {
-            EXPECT_GT(gArray->GetPicID(Goal, pile, 0), gArray->GetPicID(Goal, pile - 1, 0));
+    for (const int cards : {1, 4}) {
+        game.Goal.Cards = cards;
+        mPosition::Deal(game, 11);
+        EXPECT_EQ(gGoalBase, mFunc::CardNum(0));
+        EXPECT_EQ(gArray->TotalGoalCards(), cards);
+        int next = 0;  // the next card of that rank in the pack
+        for (int pile = 0; pile < cards; ++pile, ++next) {
+            while (mFunc::CardNum(next) != gGoalBase) ++next;
+            EXPECT_EQ(gArray->GetPicID(Goal, pile, 0), next);
         }
-        EXPECT_EQ(PicBack.Mark(MarkKind::Right, pile).Picture, gGoalBase);
+        EXPECT_EQ(PicBack.Mark(MarkKind::Right, 3).Picture, gGoalBase);
     }
-    game.Goal.Cards = 1;
-    mPosition::Deal(game, 11);
-    EXPECT_EQ(gArray->TotalGoalCards(), 1);
-    EXPECT_EQ(gArray->GetPicID(Goal, 0, 0), 0);
-    EXPECT_EQ(PicBack.Mark(MarkKind::Right, 3).Picture, gGoalBase);
 }
 
 TEST(Deal, OneOfEachSuit) {
@@ -100,14 +96,13 @@ TEST(Deal, OneOfEachSuit) {
     game.Goal.Cards = 4;
     mPosition::Deal(game, 3);
     EXPECT_EQ(gGoalBase, 0);
-    for (int pile = 0; pile < 4; ++pile) {
-        const int placed = gArray->GetPicID(Goal, pile, 0);
-        EXPECT_EQ(mFunc::CardSuit(placed), pile);
-        EXPECT_EQ(PicBack.Mark(MarkKind::Right, pile).Picture, mFunc::CardNum(placed));
-        for (int PicID = 0; PicID < placed; ++PicID)
-            EXPECT_NE(mFunc::CardSuit(PicID), pile) << "not the first";
-    }
     EXPECT_EQ(gArray->TotalGoalCards(), 4);
+    for (int pile = 0; pile < 4; ++pile) {
+        int first = 0;  // of the suit in the pack
+        while (mFunc::CardSuit(first) != pile) ++first;
+        EXPECT_EQ(gArray->GetPicID(Goal, pile, 0), first);
+        EXPECT_EQ(PicBack.Mark(MarkKind::Right, pile).Picture, mFunc::CardNum(first));
+    }
 }
 
 // Where no card is placed the base rank is drawn, Ace to Queen, the same for the same number; an empty
@@ -134,34 +129,28 @@ TEST(Deal, RandomBaseAndTheRankBelowIt) {
 }
 
 TEST(Deal, Marks) {
-    struct Row {
-        EmptyFillType Fill;
-        const char* HomePictures;
-    };
     const Engine engine;
-    for (const Row& row :
-         {Row{EmptyFillType::AnyCard, "14 14 14 14 -"}, Row{EmptyFillType::KingOnly, "12 12 12 12 -"},
-          Row{EmptyFillType::FromStock, "14 14 14 14 -"}, Row{EmptyFillType::Nothing, "14 14 14 14 -"},
-          Row{EmptyFillType::AceOnly, "0 0 0 0 -"}}) {
-        TestGame game;
-        game.Home.EmptyFillType = row.Fill;
-        game.Res.Piles = 2;
+    TestGame game;
+    game.Res.Piles = 2;
+    const std::pair<EmptyFillType, const char*> fills[] = {{EmptyFillType::AnyCard, "14 14 14 14 -"},
+                                                           {EmptyFillType::KingOnly, "12 12 12 12 -"},
+                                                           {EmptyFillType::FromStock, "14 14 14 14 -"},
+                                                           {EmptyFillType::Nothing, "14 14 14 14 -"},
+                                                           {EmptyFillType::AceOnly, "0 0 0 0 -"}};
+    for (const auto& [fill, pictures] : fills) {
+        game.Home.EmptyFillType = fill;
         mPosition::Deal(game, 1);
-        EXPECT_EQ(Pictures(MarkKind::Home, 5), row.HomePictures) << Number(row.Fill);
-        EXPECT_EQ(Pictures(MarkKind::Res, 3), "14 14 -");
-        EXPECT_EQ(Pictures(MarkKind::Waste, 1), "14");
+        EXPECT_EQ(Pictures(MarkKind::Home, 5), pictures) << Number(fill);
     }
-    struct StockRow {
-        StockNum Mark;
-        const char* Picture;
-    };
-    for (const StockRow& row : {StockRow{StockNum::None, "-"}, StockRow{StockNum::NoRedeal, "15"},
-                                StockRow{StockNum::Redeal, "16"}}) {
-        TestGame game;
-        game.Stock.StockNum = row.Mark;
-        game.Waste.Piles = 0;
+    EXPECT_EQ(Pictures(MarkKind::Res, 3), "14 14 -");
+    EXPECT_EQ(Pictures(MarkKind::Waste, 1), "14");
+    game.Waste.Piles = 0;
+    const std::pair<StockNum, const char*> stocks[] = {
+        {StockNum::None, "-"}, {StockNum::NoRedeal, "15"}, {StockNum::Redeal, "16"}};
+    for (const auto& [mark, picture] : stocks) {
+        game.Stock.StockNum = mark;
         mPosition::Deal(game, 1);
-        EXPECT_EQ(Pictures(MarkKind::Stock, 1), row.Picture);
+        EXPECT_EQ(Pictures(MarkKind::Stock, 1), picture);
         EXPECT_EQ(Pictures(MarkKind::Waste, 1), "-");
     }
 }

@@ -10,8 +10,7 @@
 #include "shell/cData.h"
 #include "state/cArray.h"
 #include "state/cTrans.h"
-#include "state/mGen.h"
-#include "support/Fixture.h"
+#include "support/Script.h"
 #include "table/cPlate.h"
 #include "table/mMain.h"
 
@@ -26,11 +25,7 @@ Point PlaceOf(const std::string& card) {
     return {record.Left, record.Top};
 }
 
-class Drag : public testing::Test {
-protected:
-    void SetUp() override { gData->Set(Setting::Autoplay, 0); }
-    Engine engine_;
-};
+using Drag = RulesTest;
 
 // The piles of the made-up game stand at 1790 + 1200 × pile; an empty one is looked for one fan step
 // above its first place.
@@ -60,12 +55,10 @@ TEST_F(Drag, AGroupTrailsByConstantSteps) {
          {Row{PileOrder::AcrossFanDown, {0, 250}}, Row{PileOrder::AcrossFanDownWide, {0, 250}},
           Row{PileOrder::AcrossFanRight, {180, 0}}, Row{PileOrder::DownFanRight, {180, 0}}}) {
         SCOPED_TRACE(Number(row.Order));
-        TestGame game;
-        game.Home.PileOrder = row.Order;
-        game.Home.PosWidth = 77;
-        mPosition::Begin(game);
-        mPosition::Lay(Home, 0, "KH QS JD");
-        mPosition::Lay(Home, 2, "9C");
+        game_.Home.PileOrder = row.Order;
+        game_.Home.PosWidth = 77;
+        mPosition::Begin(game_);
+        mScript::Lay("H0 KH QS JD; H2 9C");
         const int king = Card("KH");
         const Point start = PlaceOf("KH");
         mMain::MouseDown(king, 10, 10);
@@ -117,78 +110,53 @@ TEST_F(Drag, OverlapLooksAtTheCentreOrAtAnyPart) {
     }
 }
 
-struct ScanRow {
-    const char* Rule;
-    const char* Layout[4];  // tableau piles 0 to 3
-    const char* Card;
-    int X, Y;  // left and top of the card at the release
-    int Pile;  // of the tableau, where it lands
-};
-
 TEST_F(Drag, OverlapOfTwoPiles) {
-    const ScanRow rows[] = {
-        {"the centre decides before the lower pile",
-         {"2C QS", "KH", "KD", ""},
-         "QS",
-         FirstLeft + 2000,
-         FirstTop,
-         2},
-        {"the pile under the centre refuses: the one that is touched",
-         {"2C QS", "KH", "5D", ""},
-         "QS",
-         FirstLeft + 2000,
-         FirstTop,
-         1},
-        {"both only touched: the lower number",
-         {"2C QS", "KH", "KD", ""},
-         "QS",
-         FirstLeft + 1735,
-         FirstTop + 1300,
-         1},
-        {"its own pile under the centre: the neighbour",
-         {"2C QS", "KH", "", ""},
-         "QS",
-         FirstLeft + 400,
-         FirstTop,
-         1},
-        {"nothing fits", {"2C QS", "5H", "5D", ""}, "QS", FirstLeft + 2000, FirstTop, 0},
+    struct Row {
+        const char* Rule;
+        const char* Table;
+        Point Release;  // left and top of the Queen of Spades
+        int Pile;       // where it lands
     };
-    for (const ScanRow& row : rows) {
-        SCOPED_TRACE(row.Rule);
+    const Row rows[] = {
+        {"the centre decides before the lower pile",
+         "H0 2C QS; H1 KH; H2 KD",
+         {FirstLeft + 2000, FirstTop},
+         2},
+        {"the centre's pile refuses: the touched one",
+         "H0 2C QS; H1 KH; H2 5D",
+         {FirstLeft + 2000, FirstTop},
+         1},
+        {"both only touched: the lower one",
+         "H0 2C QS; H1 KH; H2 KD",
+         {FirstLeft + 1735, FirstTop + 1300},
+         1},
+        {"its own pile under the centre", "H0 2C QS; H1 KH", {FirstLeft + 400, FirstTop}, 1},
+        {"nothing fits", "H0 2C QS; H1 5H; H2 5D", {FirstLeft + 2000, FirstTop}, 0},
+    };
+    for (const Row& row : rows) {
         mPosition::Begin({});
-        for (int pile = 0; pile < 4; ++pile) mPosition::Lay(Home, pile, row.Layout[pile]);
-        ASSERT_TRUE(mPosition::Drag(Card(row.Card), row.X, row.Y));
-        EXPECT_EQ(mFunc::CardPile(Card(row.Card)), row.Pile);
-        EXPECT_EQ(mFunc::CardCell(Card(row.Card)), Home);
+        mScript::Lay(row.Table);
+        ASSERT_TRUE(mPosition::Drag(Card("QS"), row.Release.X, row.Release.Y));
+        EXPECT_EQ(mFunc::CardPile(Card("QS")), row.Pile) << row.Rule;
     }
 }
 
 // Foundation, reserve and tableau at one place: the tableau first, then the reserve.
 TEST_F(Drag, TableauBeforeReserveBeforeFoundation) {
-    TestGame game;
-    game.Res.Piles = 1;
-    game.Res.cResNum = ResFreeCells;
-    game.Res.StartX = game.Goal.StartX = 1200;
-    game.Res.StartY = game.Goal.StartY = 2000;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 1, "2H");
-    mPosition::Lay(Home, 0, "9D 9S AC AS");
-    ASSERT_TRUE(mPosition::DragTo(Card("AS"), Goal, 0));
-    EXPECT_EQ(mFunc::CardCell(Card("AS")), Home);
-    EXPECT_EQ(mFunc::CardPile(Card("AS")), 1);
-    ASSERT_TRUE(mPosition::DragTo(Card("AC"), Goal, 0));
-    EXPECT_EQ(mFunc::CardCell(Card("AC")), Res);
-    ASSERT_TRUE(mPosition::DragTo(Card("AS"), Goal, 0));
-    EXPECT_EQ(mFunc::CardCell(Card("AS")), Goal);
+    game_.Res.Piles = 1;
+    game_.Res.cResNum = ResFreeCells;
+    game_.Res.StartX = game_.Goal.StartX = 1200;
+    game_.Res.StartY = game_.Goal.StartY = 2000;
+    Expect({{"a drag onto the foundation each",
+             "H0 9D 9S AC AS; H1 2H | AS>G0 AC>G0 | H0 9D 9S; H1 2H AS; R0 AC "
+             "| AS>G0 | H0 9D 9S; H1 2H; R0 AC; G0 AS"}});
 }
 
 // A drop looks for a foundation where its first card lies, wherever its top card is.
 TEST_F(Drag, AFoundationIsHitAtItsFirstPlace) {
-    TestGame game;
-    game.Goal.PosWidth = 2000;
-    mPosition::Begin(game);
-    mPosition::Lay(Goal, 0, "AS 2S");
-    mPosition::Lay(Home, 0, "2C 3S");
+    game_.Goal.PosWidth = 2000;
+    mPosition::Begin(game_);
+    mScript::Lay("H0 2C 3S; G0 AS 2S");
     const Point top = PlaceOf("2S");
     ASSERT_TRUE(mPosition::Drag(Card("3S"), top.X, top.Y));
     EXPECT_EQ(mFunc::CardCell(Card("3S")), Home);
@@ -205,8 +173,7 @@ TEST_F(Drag, Sounds) {
     EXPECT_THAT(played, IsEmpty()) << "no game runs";
 
     mPosition::Begin({});
-    mPosition::Lay(Home, 0, "(KH) 2C");
-    mPosition::Lay(Home, 1, "9C");
+    mScript::Lay("H0 (KH) 2C; H1 9C");
     mPosition::Press(Card("KH"));
     EXPECT_THAT(played, ElementsAre("CARDDOWN")) << "a refused lift";
     mPosition::DragTo(Card("2C"), Home, 1);
@@ -215,8 +182,7 @@ TEST_F(Drag, Sounds) {
 
 TEST_F(Drag, ASecondPressDuringADragChangesNothing) {
     mPosition::Begin({});
-    mPosition::Lay(Home, 0, "KH QS");
-    mPosition::Lay(Home, 1, "KD");
+    mScript::Lay("H0 KH QS; H1 KD");
     const int queen = Card("QS");
     mMain::MouseDown(queen, 10, 10);
     mMain::MouseMove(queen, 1210, -240);
@@ -235,9 +201,7 @@ TEST_F(Drag, ASecondPressDuringADragChangesNothing) {
 // A command that comes while a card is held finds the table as it was before the press.
 TEST_F(Drag, CommandsDuringADragSendTheCardBack) {
     mPosition::Begin({});
-    mPosition::Lay(Home, 0, "KH QS JD");
-    mPosition::Lay(Home, 1, "QC");
-    mPosition::Lay(Home, 2, "KD");
+    mScript::Lay("H0 KH QS JD; H1 QC; H2 KD");
     ASSERT_TRUE(mPosition::DragTo(Card("QC"), Home, 2));
     const int queen = Card("QS");
     const Point place = PlaceOf("QS");

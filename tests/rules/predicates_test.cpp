@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "rules/mFunc.h"
-#include "state/cArray.h"
 #include "support/Fixture.h"
 
 namespace {
@@ -77,6 +76,7 @@ TEST(Predicates, RuleCodes) {
 TEST(Predicates, SuitsOfAGameDecide) {
     const Engine engine;
     struct Row {
+        const char* Rule;
         SuitType Suits;
         const char* Below;
         const char* Card;
@@ -84,44 +84,22 @@ TEST(Predicates, SuitsOfAGameDecide) {
         bool Fits;
     };
     const Row rows[] = {
-        // One suit: everything counts as Hearts.
-        {SuitType::OneSuit, "7S", "6H", RuleCode::DownSuit, true},
-        {SuitType::OneSuit, "7S", "6H", RuleCode::DownAlt, false},
-        {SuitType::OneSuit, "7S", "6H", RuleCode::DownOther, false},
-        // Two suits: the first two of a deck are one, the last two the other.
-        {SuitType::TwoSuits, "7H", "6S", RuleCode::DownSuit, true},
-        {SuitType::TwoSuits, "7H", "6C", RuleCode::DownSuit, false},
-        {SuitType::TwoSuits, "7H", "6D", RuleCode::DownAlt, true},
-        {SuitType::TwoSuits, "7D'", "6C", RuleCode::DownSuit, true},
-        {SuitType::FourSuits, "7H'", "6H", RuleCode::DownSuit, true},
+        {"one suit", SuitType::OneSuit, "7S", "6H", RuleCode::DownSuit, true},
+        {"one suit: one colour", SuitType::OneSuit, "7S", "6H", RuleCode::DownAlt, false},
+        {"one suit: no other", SuitType::OneSuit, "7S", "6H", RuleCode::DownOther, false},
+        {"the first two are one", SuitType::TwoSuits, "7H", "6S", RuleCode::DownSuit, true},
+        {"the last two are another", SuitType::TwoSuits, "7H", "6C", RuleCode::DownSuit, false},
+        {"and of the other colour", SuitType::TwoSuits, "7H", "6D", RuleCode::DownAlt, true},
+        {"over both decks", SuitType::TwoSuits, "7D'", "6C", RuleCode::DownSuit, true},
+        {"four suits over both decks", SuitType::FourSuits, "7H'", "6H", RuleCode::DownSuit, true},
     };
     for (const Row& row : rows) {
         TestGame game;
         game.Home.SuitType = row.Suits;
         game.Ext.Cards = 104;
         mPosition::Begin(game);
-        EXPECT_EQ(mFunc::OrderOK(Card(row.Below), Card(row.Card), row.Code, false), row.Fits)
-            << row.Card << " on " << row.Below;
+        EXPECT_EQ(mFunc::OrderOK(Card(row.Below), Card(row.Card), row.Code, false), row.Fits) << row.Rule;
     }
-}
-
-// The values at the ends of the second deck name the right card.
-TEST(Predicates, ValuesOfTwoDecks) {
-    const Engine engine;
-    TestGame game;
-    game.Ext.Cards = 104;
-    mPosition::Begin(game);
-    const int first = Card("KC");
-    const int second = Card("KC'");
-    EXPECT_EQ(gArray->GetRandom(first), 51);
-    EXPECT_EQ(gArray->GetRandom(second), 103);
-    for (const int king : {first, second}) {
-        EXPECT_EQ(mFunc::CardNum(king), 12);
-        EXPECT_EQ(mFunc::CardSuit(king), 3);
-        EXPECT_EQ(mFunc::CardColor(king), 2);
-    }
-    EXPECT_EQ(mFunc::CardSuitpile(first), 3);
-    EXPECT_EQ(mFunc::CardSuitpile(second), 7);
 }
 
 }  // namespace

@@ -1,149 +1,64 @@
-// The press on the stock and the click on its mark.
-#include <string>
-
-#include <gtest/gtest.h>
-
+// The press on the stock, the click on its mark, and what the mark shows.
 #include "rules/mFunc.h"
 #include "rules/mPlay.h"
 #include "shell/cData.h"
-#include "state/cArray.h"
-#include "state/cTrans.h"
-#include "support/Fixture.h"
+#include "state/codes.h"
+#include "support/Script.h"
 #include "table/cPlate.h"
 #include "table/mMain.h"
 
 namespace {
 
-using mPosition::Card;
-
-class StockTest : public testing::Test {
+class StockTest : public RulesTest {
 protected:
-    void SetUp() override { gData->Set(Setting::Autoplay, 0); }
-    static int StockPicture() { return PicBack.Mark(MarkKind::Stock, 0).Picture; }
-    static void PressStock() { mPosition::Press(gArray->GetTopPicID(Stock)); }
-    Engine engine_;
+    static int Picture() { return PicBack.Mark(MarkKind::Stock, 0).Picture; }
 };
 
-TEST_F(StockTest, PressByStockMove) {
-    struct Row {
-        StockMove Press;
-        int Cards;  // in the stock
-        const char* Waste;
-        const char* Pile0;
-        const char* Pile2;
-        int Moves;
-        int Step;  // moves that one Undo takes back
-    };
-    // The stock from its top: 9S 8S 7S ...
-    const Row rows[] = {
-        {StockMove::None, 5, "9S", "KH", "KD", 1, 1},
-        {StockMove::OneToWaste, 5, "9S", "KH", "KD", 1, 1},
-        {StockMove::ByHand, 5, "9S", "KH", "KD", 1, 1},
-        {StockMove{7}, 5, "9S", "KH", "KD", 1, 1},
-        {StockMove::ThreeToWaste, 5, "9S 8S 7S", "KH", "KD", 3, 1},
-        {StockMove::ThreeToWaste, 2, "9S 8S", "KH", "KD", 2, 1},
-        {StockMove::OneToEachPile, 5, "", "KH 9S", "KD 7S", 4, 4},
-        {StockMove::OneToEachPile, 2, "", "KH 9S", "KD", 2, 2},
-        {StockMove::FirstThreeToPiles, 5, "", "KH 9S", "KD 7S", 4, 4},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE("command " + std::to_string(Number(row.Press)) + ", cards " + std::to_string(row.Cards));
-        TestGame game;
-        game.Stock.StockMove = row.Press;
-        mPosition::Begin(game);
-        mPosition::Lay(Home, 0, "KH");
-        mPosition::Lay(Home, 1, "KS");
-        mPosition::Lay(Home, 2, "KD");
-        const char* stock[] = {"(5S)", "(6S)", "(7S)", "(8S)", "(9S)"};
-        for (int i = 5 - row.Cards; i < 5; ++i) mPosition::Lay(Stock, 0, stock[i]);
-        // Whichever card of the stock the press names.
-        mPosition::Press(gArray->GetPicID(Stock, 0, 0));
-        EXPECT_EQ(mPosition::Pile(Waste, 0), row.Waste);
-        EXPECT_EQ(mPosition::Pile(Home, 0), row.Pile0);
-        EXPECT_EQ(mPosition::Pile(Home, 2), row.Pile2);
-        EXPECT_EQ(gTrans->GetTransID(), row.Moves);
-        EXPECT_FALSE(gDrag.gPicked);
-        EXPECT_EQ(gTrans->Record(1).tMod, tMod::FromStock);
-        // A row onto the piles is one step, three cards to the waste are three.
-        mMain::Undo(0);
-        EXPECT_EQ(gTrans->GetTransID(), row.Moves - row.Step);
+TEST_F(StockTest, Presses) {
+    for (const StockMove one : {StockMove::None, StockMove::OneToWaste, StockMove::ByHand, StockMove{7}}) {
+        game_.Stock.StockMove = one;
+        Expect({{"one card to the waste", "S (5S-9S); H0 KH | stock | H0 KH; S (5S-8S); W 9S #1"}});
     }
-}
-
-TEST_F(StockTest, TheFourthPressGoesToTheWaste) {
-    TestGame game;
-    game.Stock.StockMove = StockMove::FirstThreeToPiles;
-    mPosition::Begin(game);
-    mPosition::LayRestOnStock();
-    for (int press = 1; press <= 3; ++press) {
-        PressStock();
-        mMain::Undo(0);
-        EXPECT_EQ(gGames->CarreNapCount, press) << "undone presses stay counted";
+    game_.Stock.StockMove = StockMove::ThreeToWaste;
+    Expect({
+        {"three cards to the waste are three steps",
+         "S (5S-9S) | stock | S (5S-6S); W 9S-7S #3 | undo | S (5S-7S); W 9S 8S #2"},
+        {"three to the waste: as many as there are", "S (8S) (9S) | stock | W 9S 8S #2"},
+    });
+    for (const StockMove row : {StockMove::OneToEachPile, StockMove::FirstThreeToPiles}) {
+        game_.Stock.StockMove = row;
+        Expect({
+            {"one card to each pile is one step",
+             "S (5S-9S); H1 KH | stock | H0 9S; H1 KH 8S; H2 7S; H3 6S; S (5S) #4 | undo | ="},
+            {"to the piles: as far as the cards reach", "S (8S-9S); H0 KH | stock | H0 KH 9S; H1 8S #2"},
+        });
     }
-    PressStock();
-    EXPECT_EQ(gArray->GetTop(Waste), 0);
-    EXPECT_EQ(gArray->GetTop(Home, 0), -1);
-    EXPECT_EQ(gGames->CarreNapCount, 3);
+    Expect({{"the fourth press goes to the waste, undone ones counted",
+             "S (AS-9S) | stock undo stock undo stock undo | = | stock | S (AS-8S); W 9S #1"}});
 }
 
-TEST_F(StockTest, AnOpenStockIsPlayedLikeAPile) {
-    TestGame game;
-    game.Stock.StockType = StockType::Open;
-    mPosition::Begin(game);
-    mPosition::Lay(Stock, 0, "5C QS");
-    mPosition::Lay(Home, 1, "KH");
-    EXPECT_TRUE(mPosition::DragTo(Card("QS"), Home, 1));
-    EXPECT_EQ(mPosition::Pile(Home, 1), "KH QS");
-    EXPECT_EQ(gTrans->Record(1).tMod, tMod::Play);
-    mMain::Undo(0);
-    EXPECT_EQ(mPosition::Pile(Stock, 0), "5C QS");
-}
-
-TEST_F(StockTest, RedealTurnsTheWasteOver) {
-    TestGame game;
-    game.Stock.StockNum = StockNum::Redeal;
-    game.Ext.cRedeals = 2;
-    mPosition::Deal(game, 1);
-    const std::string stock = mPosition::Pile(Stock, 0);
-    for (int redeal = 1; redeal <= 2; ++redeal) {
-        while (gArray->GetTop(Stock) >= 0) PressStock();
-        EXPECT_EQ(gArray->GetTop(Waste), 51);
-        const int moves = gTrans->GetTransID();
-        mMain::StockClick();
-        EXPECT_EQ(mPosition::Pile(Stock, 0), stock) << "the same order as before";
-        EXPECT_EQ(gRedealCount, redeal);
-        EXPECT_EQ(gTrans->GetTransID(), moves + 52);
-        EXPECT_EQ(gGames->StockNum, redeal == 2 ? StockNum::NoRedeal : StockNum::Redeal);
-    }
-    EXPECT_EQ(StockPicture(), 15);
-    mMain::Undo(0);
-    EXPECT_EQ(gArray->GetTop(Waste), 51) << "all its cards with one step";
-    EXPECT_EQ(mFunc::CardFaceMode(gArray->GetTopPicID(Waste)), 0);
-    EXPECT_EQ(gRedealCount, 2) << "stays counted";
-    EXPECT_EQ(gGames->StockNum, StockNum::NoRedeal);
-    mMain::StockClick();
-    EXPECT_EQ(gArray->GetTop(Waste), 51) << "beyond the limit";
-    mMain::Redo(0);
-    EXPECT_EQ(mPosition::Pile(Stock, 0), stock);
-}
-
-TEST_F(StockTest, RedealsWithoutLimitOrWithoutCards) {
-    TestGame game;
-    game.Stock.StockNum = StockNum::Redeal;
-    game.Ext.cRedeals = -1;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "5C");
-    for (int i = 0; i < 5; ++i) mMain::StockClick();
-    EXPECT_EQ(gRedealCount, 5) << "an empty waste counts";
-    EXPECT_EQ(gGames->StockNum, StockNum::Redeal);
-    EXPECT_EQ(gTrans->GetTransID(), 0);
-
-    game.Ext.cRedeals = 0;
-    mPosition::Begin(game);
-    mPosition::Lay(Waste, 0, "5C");
-    mMain::StockClick();
-    EXPECT_EQ(mPosition::Pile(Waste, 0), "5C");
-    EXPECT_EQ(gRedealCount, 0);
+TEST_F(StockTest, Redeals) {
+    Expect({{"no redeal without the mark for one", "W 5C | mark | ="}});
+    game_.Stock.StockNum = StockNum::Redeal;
+    game_.Ext.cRedeals = 2;
+    Expect({
+        {"the waste turned over is one step",
+         "W 3C 2C | mark | S (2C) (3C) #2 | undo | = | redo | S (2C) (3C) #2"},
+        {"the limit", "W 3C 2C | mark stock stock mark stock stock mark | W 3C 2C #8"},
+        {"an undone redeal stays counted", "W 3C 2C | mark undo mark undo mark | ="},
+        {"an empty waste counts", "S (5C) | mark mark stock mark | W 5C #1"},
+    });
+    game_.Ext.cRedeals = -1;
+    Expect({{"without limit", "W 2C | mark stock mark stock mark stock mark stock mark | S (2C)"}});
+    game_.Ext.cRedeals = 0;
+    Expect({{"without any", "W 2C | mark | ="}});
+    game_.Ext.cRedeals = 1;
+    game_.Ext.cRedealType = RedealType::GatherTableau;
+    game_.Home.Piles = 6;
+    // Gathered 9D 5C 8S ... 2S, so that the Two of Spades leaves the stock first.
+    const std::string rows = "H0 2S 8S; H1 3S 5C; H2 4S 9D; H3 5S; H4 6S; H5 7S; G1 AH #18";
+    Expect({{"a gathered tableau goes out in rows, as one step, once",
+             "H0 (5C) (9D); H2 2S-8S; G1 AH | mark | " + rows + " | undo | = | redo mark | " + rows}});
 }
 
 // Every half second the mark says whether a click can still do something.
@@ -151,84 +66,52 @@ TEST_F(StockTest, TheMarkFollowsTheCards) {
     struct Row {
         GameType Type;
         StockNum Mark;
-        const char* Stock;
-        const char* Waste;
+        const char* Table;
         int Picture;
     };
-    const Row rows[] = {
-        {GameType::Plain, StockNum::Redeal, "(5C)", "", 16},
-        {GameType::Plain, StockNum::Redeal, "", "5C", 16},
-        {GameType::Plain, StockNum::Redeal, "", "", 15},
-        {GameType::OpenRedeal, StockNum::Redeal, "", "", 16},
-        {GameType::Plain, StockNum::NoRedeal, "", "5C", 3},
-    };
-    for (const Row& row : rows) {
-        TestGame game;
-        game.Ext.GameType = row.Type;
-        game.Stock.StockNum = row.Mark;
-        mPosition::Begin(game);
+    for (const Row& row :
+         {Row{GameType::Plain, StockNum::Redeal, "S (5C)", 16},
+          Row{GameType::Plain, StockNum::Redeal, "W 5C", 16}, Row{GameType::Plain, StockNum::Redeal, "", 15},
+          Row{GameType::OpenRedeal, StockNum::Redeal, "", 16},
+          Row{GameType::Plain, StockNum::NoRedeal, "W 5C", 3}}) {
+        game_.Ext.GameType = row.Type;
+        game_.Stock.StockNum = row.Mark;
+        mPosition::Begin(game_);
         PicBack.ShowMark(MarkKind::Stock, 0, 3, 0, 0);
-        mPosition::Lay(Stock, 0, row.Stock);
-        mPosition::Lay(Waste, 0, row.Waste);
+        mScript::Lay(row.Table);
         mMain::TickTime();
-        EXPECT_EQ(StockPicture(), row.Picture) << row.Stock << row.Waste;
+        EXPECT_EQ(Picture(), row.Picture) << row.Table;
     }
 }
 
-TEST_F(StockTest, GatheredTableauGoesOutInRows) {
-    TestGame game;
-    game.Home.Piles = 6;
-    game.Stock.StockNum = StockNum::Redeal;
-    game.Ext.cRedeals = 1;
-    game.Ext.cRedealType = RedealType::GatherTableau;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "(5C) (9D)");
-    mPosition::Lay(Home, 2, "2S-8S");
-    mPosition::Lay(Goal, 1, "AH");
-    PicBack.ShowMark(MarkKind::Stock, 0, 16, 0, 0);
-    mMain::StockClick();
-    // Gathered 9D 5C 8S ... 2S, so that the Two of Spades leaves the stock first.
-    EXPECT_EQ(mPosition::Pile(Home, 0), "2S 8S");
-    EXPECT_EQ(mPosition::Pile(Home, 1), "3S 5C");
-    EXPECT_EQ(mPosition::Pile(Home, 2), "4S 9D");
-    EXPECT_EQ(mPosition::Pile(Home, 5), "7S");
-    EXPECT_EQ(mPosition::Pile(Goal, 1), "AH");
-    EXPECT_EQ(StockPicture(), 15);
-    EXPECT_EQ(gTrans->GetTransID(), 18);
-    mMain::Undo(0);
-    EXPECT_EQ(gTrans->GetTransID(), 0);
-    EXPECT_EQ(mPosition::Pile(Home, 0), "(5C) (9D)");
-    EXPECT_EQ(mPosition::Pile(Home, 2), "2S 3S 4S 5S 6S 7S 8S");
-    EXPECT_EQ(mPosition::Pile(Home, 5), "");
-    mMain::Redo(0);
-    EXPECT_EQ(mPosition::Pile(Home, 2), "4S 9D");
-    mMain::StockClick();
-    EXPECT_EQ(mPosition::Pile(Home, 2), "4S 9D");
+TEST_F(StockTest, TheLastRedealMakesAMereMark) {
+    game_.Stock.StockNum = StockNum::Redeal;
+    game_.Ext.cRedeals = 2;
+    for (const RedealType type : {RedealType::WasteToStock, RedealType::GatherTableau}) {
+        game_.Ext.cRedealType = type;
+        mPosition::Deal(game_, 1);
+        mMain::StockClick();
+        EXPECT_EQ(Picture(), 16);
+        mMain::StockClick();
+        EXPECT_EQ(Picture(), 15);
+        EXPECT_EQ(gGames->StockNum, StockNum::NoRedeal);
+        EXPECT_EQ(gRedealCount, 2);
+    }
 }
 
 // No autoplay between the cards of a row, one pass after it; none at all after the waste was turned.
 TEST_F(StockTest, AutoplayAfterStockCommands) {
     gData->Set(Setting::Autoplay, 1);
-    TestGame game;
-    game.Stock.StockMove = StockMove::OneToEachPile;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "2H");
-    mPosition::Lay(Stock, 0, "(2S) (AS) (3C) (AH)");
-    PressStock();
-    // All four lie before the first goes up: the Ace of Hearts, the Two below it, the other Ace and its Two.
-    EXPECT_EQ(mPosition::Pile(Goal, 0), "AH 2H");
-    EXPECT_EQ(mPosition::Pile(Goal, 1), "AS 2S");
-    EXPECT_EQ(gTrans->GetTransID(), 8);
-    for (int i = 1; i <= 4; ++i) EXPECT_EQ(gTrans->Record(i).SCell, Stock);
-
-    game.Stock.StockNum = StockNum::Redeal;
-    game.Ext.cRedeals = -1;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "AC");
-    mPosition::Lay(Waste, 0, "9C");
-    mMain::StockClick();
-    EXPECT_EQ(mPosition::Pile(Home, 0), "AC");
-    EXPECT_EQ(mPosition::Pile(Stock, 0), "(9C)");
+    game_.Stock.StockMove = StockMove::OneToEachPile;
+    game_.Stock.StockNum = StockNum::Redeal;
+    game_.Ext.cRedeals = -1;
+    Expect({
+        {"all four lie before the first goes up, as its first covers none",
+         "H0 2H; S (2S) (AS) (3C) (AH) | stock | H1 3C; G0 AH 2H; G1 AS 2S #8"},
+        {"a turned waste starts no pass", "H0 AC; W 9C | mark | H0 AC; S (9C)"},
+    });
+    game_.Ext.cRedealType = RedealType::GatherTableau;
+    Expect({{"a gathered tableau starts one, after its last row", "H0 AC; H1 9C | mark | H0 9C; G0 AC #5"}});
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 // Winning a game in every way, and what the end-of-game dialog starts afterwards: by then the chain of
 // moves that won must have ended, so that nothing of it touches the new deal.
 #include <string>
-#include <variant>
 
 #include <gtest/gtest.h>
 
@@ -13,7 +12,7 @@
 #include "state/cTrans.h"
 #include "state/mGen.h"
 #include "support/Checks.h"
-#include "support/Fixture.h"
+#include "support/Script.h"
 #include "table/cPlate.h"
 #include "table/mMain.h"
 
@@ -21,42 +20,29 @@ namespace {
 
 using mPosition::Card;
 
-// One card short of a win: the King of Clubs lies on tableau pile 0.
-void LayAllButOne(const TestGame& game) {
+constexpr const char* AllButOne = "G0 AH-KH; G1 AS-KS; G2 AD-KD; G3 AC-QC; H0 KC";
+
+void Lay(const TestGame& game, const char* table, int autoplay) {
+    gData->Set(Setting::Autoplay, autoplay);
     mPosition::Begin(game);
-    mPosition::Lay(Goal, 0, "AH-KH");
-    mPosition::Lay(Goal, 1, "AS-KS");
-    mPosition::Lay(Goal, 2, "AD-KD");
-    mPosition::Lay(Goal, 3, "AC-QC");
-    mPosition::Lay(Home, 0, "KC");
+    mScript::Lay(table);
 }
 
 void WinByDrag() {
-    gData->Set(Setting::Autoplay, 0);
-    LayAllButOne({});
+    Lay({}, AllButOne, 0);
     mPosition::DragTo(Card("KC"), Goal, 3);
 }
 
 // The move to the tableau frees the rest, which goes up in a chain.
 void WinByAutoplay() {
-    mPosition::Begin({});
-    mPosition::Lay(Goal, 0, "AH-KH");
-    mPosition::Lay(Goal, 1, "AS-KS");
-    mPosition::Lay(Goal, 2, "AD-TD");
-    mPosition::Lay(Goal, 3, "AC-TC");
-    mPosition::Lay(Home, 0, "(KD) (QC) JD KC");
-    mPosition::Lay(Home, 1, "(QD) JC");
-    gData->Set(Setting::Autoplay, 0);
-    mPosition::DragTo(Card("KC"), Home, 2);
-    gData->Set(Setting::Autoplay, 1);
+    Lay({}, "G0 AH-KH; G1 AS-KS; G2 AD-TD; G3 AC-TC; H0 (KD) (QC) JD; H1 (QD) JC; H2 KC", 1);
     mPosition::DragTo(Card("KC"), Home, 3);
 }
 
 // The log of this position holds the winning move and one more after it, both undone. By play it cannot
 // come to that, as a win ends the game; so the moves are made while no game counts as running.
 void LogTheWinningMove() {
-    gData->Set(Setting::Autoplay, 0);
-    LayAllButOne({});
+    Lay({}, AllButOne, 0);
     mPosition::DragTo(Card("KC"), Home, 1);
     gData->Figures.GameRunning = false;
     gArray->MoveCard(Card("KC"), Goal, 3, 12, tMod::Play, 0, 0, 0, true);
@@ -85,8 +71,7 @@ void WinByReplay() {
 }
 
 void WinBySwitchingAutoplayOn() {
-    gData->Set(Setting::Autoplay, 0);
-    LayAllButOne({});
+    Lay({}, AllButOne, 0);
     mMain::FlipAutoplay();
 }
 
@@ -95,25 +80,14 @@ void WinByACompleteRun() {
     game.Home.Order = RuleCode::DownSuit;
     game.Ext.GameType = GameType::CompleteRuns;
     game.Ext.cDisAutoPlay = true;
-    game.Goal.Piles = 1;
-    mPosition::Begin(game);
-    mPosition::Lay(Goal, 0, "AH-KH");
-    mPosition::Lay(Goal, 1, "AS-KS");
-    mPosition::Lay(Goal, 2, "AD-KD");
-    mPosition::Lay(Home, 0, "KC-2C");
-    mPosition::Lay(Home, 2, "AC");
+    Lay(game, "G0 AH-KH; G1 AS-KS; G2 AD-KD; H0 KC-2C; H2 AC", 1);
     mPosition::DragTo(Card("AC"), Home, 0);
 }
 
 void WinByTheStock() {
     TestGame game;
     game.Stock.StockMove = StockMove::OneToEachPile;
-    mPosition::Begin(game);
-    mPosition::Lay(Goal, 0, "AH-KH");
-    mPosition::Lay(Goal, 1, "AS-KS");
-    mPosition::Lay(Goal, 2, "AD-KD");
-    mPosition::Lay(Goal, 3, "AC-TC");
-    mPosition::Lay(Stock, 0, "(JC) (KC) (QC)");
+    Lay(game, "G0 AH-KH; G1 AS-KS; G2 AD-KD; G3 AC-TC; S (JC) (KC) (QC)", 1);
     mPosition::Press(Card("QC"));
 }
 
@@ -126,11 +100,7 @@ void RearrangeTheDeal(bool autoplay) {
     if (++dealtCards == KlondikeDeal) {
         gArray->Init(gData->Figures.CurGNo);
         for (int PicID = 0; PicID < 52; ++PicID) PicBack.SetLoc(PicID, Res, 20, 0);
-        mPosition::Lay(Goal, 0, "AH-KH");
-        mPosition::Lay(Goal, 1, "AS-KS");
-        mPosition::Lay(Goal, 2, "AD-KD");
-        mPosition::Lay(Goal, 3, "AC-JC");
-        mPosition::Lay(Home, 3, "KC QC");
+        mScript::Lay("G0 AH-KH; G1 AS-KS; G2 AD-KD; G3 AC-JC; H3 KC QC");
         gArray->OnMoved = afterMove;
     }
     afterMove(autoplay);
@@ -214,14 +184,19 @@ TEST_P(Winning, IsRecordedOnceAndTheNextGameIsWhole) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Ways, Winning,
-                         testing::Values(Win{"ByDrag", WinByDrag}, Win{"ByAutoplay", WinByAutoplay},
-                                         Win{"ByRedo", WinByRedo}, Win{"ByRedoAll", WinByRedoAll},
-                                         Win{"ByReplay", WinByReplay},
-                                         Win{"BySwitchingAutoplayOn", WinBySwitchingAutoplayOn},
-                                         Win{"ByACompleteRun", WinByACompleteRun},
-                                         Win{"ByTheStock", WinByTheStock},
-                                         Win{"ByTheFirstPass", WinByTheFirstPass}),
+constexpr Win Ways[] = {
+    {"ByDrag", WinByDrag},
+    {"ByAutoplay", WinByAutoplay},
+    {"ByRedo", WinByRedo},
+    {"ByRedoAll", WinByRedoAll},
+    {"ByReplay", WinByReplay},
+    {"BySwitchingAutoplayOn", WinBySwitchingAutoplayOn},
+    {"ByACompleteRun", WinByACompleteRun},
+    {"ByTheStock", WinByTheStock},
+    {"ByTheFirstPass", WinByTheFirstPass},
+};
+
+INSTANTIATE_TEST_SUITE_P(Ways, Winning, testing::ValuesIn(Ways),
                          [](const auto& way) { return std::string(way.param.Name); });
 
 TEST(CardsToWin, IsWhatTheFoundationsHold) {
@@ -250,12 +225,9 @@ TEST(CardsToWin, IsWhatTheFoundationsHold) {
 // The card that completes smaller foundations wins, and no card before it.
 TEST(CardsToWin, AGameWithCardsLeftOverIsWon) {
     Engine engine;
-    gData->Set(Setting::Autoplay, 0);
     TestGame game;
     game.Goal.Piles = 1;
-    mPosition::Begin(game);
-    mPosition::Lay(Goal, 0, "AH-JH");
-    mPosition::Lay(Home, 0, "2C KH QH");
+    Lay(game, "G0 AH-JH; H0 2C KH QH", 0);
     mPosition::DragTo(Card("QH"), Goal, 0);
     EXPECT_TRUE(gData->Figures.GameRunning);
     mPosition::DragTo(Card("KH"), Goal, 0);
@@ -265,7 +237,7 @@ TEST(CardsToWin, AGameWithCardsLeftOverIsWon) {
 // The dialog shows the figures of the last tick; a negative score is drawn as none.
 TEST(Finish, ShowsTheFiguresOfTheGame) {
     Engine engine;
-    LayAllButOne({});
+    Lay({}, AllButOne, 0);
     gData->SetCurGName("Klondike");
     gData->Figures.CurGNo = std::string("007");
     gData->Figures.CurTime = 3723;
@@ -273,9 +245,9 @@ TEST(Finish, ShowsTheFiguresOfTheGame) {
     gData->Figures.CurScore = -5;
     mPosition::DragTo(Card("KC"), Goal, 3);
     const FinishSummary& summary = engine.Layer.Forms.Last;
-    EXPECT_EQ(summary.GameName, "Klondike");
     const std::vector<std::string> lines = {" Game : 007", " Player : Player1", " Time : 1:02:03",
                                             " Moves : 12", " Score : -5"};
+    EXPECT_EQ(summary.GameName, "Klondike");
     EXPECT_EQ(summary.Lines, lines);
     EXPECT_EQ(summary.Score, 0);
     EXPECT_EQ(summary.Moves, 12);

@@ -12,9 +12,7 @@
 #include "state/cArray.h"
 #include "state/cTrans.h"
 #include "state/mRandom.h"
-#include "support/Fixture.h"
-#include "table/cPlate.h"
-#include "table/mMain.h"
+#include "support/Script.h"
 
 namespace {
 
@@ -45,15 +43,14 @@ TEST(Shuffle, IsAPermutation) {
 
 TEST(Shuffle, GoesByTheValueOfTheNumber) {
     const Engine engine;
-    const std::vector<int> twelve = Shuffled(52, 12.0);
-    EXPECT_EQ(Shuffled(52, 12.0), twelve);
-    EXPECT_EQ(Shuffled(52, std::string("12")), twelve);
-    EXPECT_EQ(Shuffled(52, std::string(" 012.0 ")), twelve);
-    EXPECT_NE(Shuffled(52, 12.5), twelve);
-    EXPECT_EQ(Shuffled(52, std::string("12.5")), Shuffled(52, 12.5));
-    EXPECT_NE(Shuffled(52, -12.0), twelve);
-    EXPECT_NE(Shuffled(52, 999999999999998.0), Shuffled(52, 999999999999999.0)) << "fifteen digits count";
-    EXPECT_EQ(Shuffled(52, 0.0), Shuffled(52, -0.0));
+    const auto deal = [](const GameNumber& number) { return Shuffled(52, number); };
+    EXPECT_EQ(deal(std::string("12")), deal(12.0));
+    EXPECT_EQ(deal(std::string(" 012.0 ")), deal(12.0));
+    EXPECT_EQ(deal(std::string("12.5")), deal(12.5));
+    EXPECT_EQ(deal(0.0), deal(-0.0));
+    EXPECT_NE(deal(12.5), deal(12.0));
+    EXPECT_NE(deal(-12.0), deal(12.0));
+    EXPECT_NE(deal(999999999999998.0), deal(999999999999999.0)) << "fifteen digits count";
 }
 
 // Draws are rounded, so the first and the last of the cards still in hand come up half as often.
@@ -114,106 +111,23 @@ TEST(Shuffle, DealsNeverChange) {
 }
 
 TEST(Rounding, TiesGoToTheEvenNumber) {
-    struct Row {
-        double Value;
-        int Rounded;
-    };
-    for (const Row& row : {Row{0.5, 0}, Row{1.5, 2}, Row{2.5, 2}, Row{-0.5, 0}, Row{-1.5, -2}, Row{-2.5, -2},
-                           Row{2.4999, 2}, Row{2.5001, 3}, Row{-2.5001, -3}, Row{7.0, 7}}) {
-        EXPECT_EQ(RoundToEven(row.Value), row.Rounded) << row.Value;
-    }
+    const std::vector<std::pair<double, int>> rows = {{0.5, 0},    {1.5, 2},    {2.5, 2},
+                                                      {-0.5, 0},   {-1.5, -2},  {-2.5, -2},
+                                                      {2.4999, 2}, {2.5001, 3}, {-2.5001, -3}};
+    for (const auto& [value, rounded] : rows) EXPECT_EQ(RoundToEven(value), rounded) << value;
 }
 
-class MoveCard : public testing::Test {
-protected:
-    void SetUp() override { gData->Set(Setting::Autoplay, 0); }
-    Engine engine_;
-};
+using MoveCard = RulesTest;
 
-TEST_F(MoveCard, AGroupMovesWhole) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "(9D) KH QS JD");
-    mPosition::Lay(Home, 1, "2C");
-    gArray->MoveCard(Card("KH"), Home, 1, 1, tMod::Play, 1, 2);
-    EXPECT_EQ(mPosition::Pile(Home, 1), "2C KH QS JD");
-    EXPECT_EQ(mPosition::Pile(Home, 0), "9D");
-    EXPECT_EQ(gArray->GetTop(Home, 1), 3);
-    EXPECT_EQ(gArray->GetPicID(Home, 0, 1), -1);
-    EXPECT_EQ(PicBack.PicCards(Card("JD")).Top, 2200 + 3 * 250);
-    EXPECT_EQ(gTrans->Record(1).tMod, tMod::Uncover);
-    EXPECT_EQ(gTrans->Record(1).mCards, 2);
-}
-
-TEST_F(MoveCard, WhatUncovers) {
-    struct Row {
-        const char* Why;
-        int Cell;
-        const char* Pile;
-        const char* Card;
-        tMod Kind;
-        tMod Logged;
-        const char* Left;
-    };
-    const Row rows[] = {
-        {"a closed card below opens", Home, "(9D) 5C", "5C", tMod::Play, tMod::Uncover, "9D"},
-        {"an open card below", Home, "9D 5C", "5C", tMod::Play, tMod::Play, "9D"},
-        {"the last card of a pile", Home, "5C", "5C", tMod::Play, tMod::Play, ""},
-        {"a card going back to the stock", Home, "(9D) 5C", "5C", tMod::ToStock, tMod::Uncover, "9D"},
-        {"only the tableau", Stock, "(9D) (5C)", "5C", tMod::FromStock, tMod::FromStock, "(9D)"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.Why);
-        mPosition::Begin({});
-        mPosition::Lay(row.Cell, 0, row.Pile);
-        gArray->MoveCard(Card(row.Card), Home, 2, 0, row.Kind);
-        EXPECT_EQ(mPosition::Pile(row.Cell, 0), row.Left);
-        EXPECT_EQ(gTrans->Record(1).tMod, row.Logged);
-    }
-    // Undo and repositioning open nothing and are not logged.
+// Undo and repositioning open nothing and are not logged; repositioning leaves the tops alone.
+TEST_F(MoveCard, SilentMoves) {
     for (const tMod kind : {tMod::UndoRedo, tMod::Reposition}) {
         mPosition::Begin({});
-        mPosition::Lay(Home, 0, "(9D) 5C");
+        mScript::Lay("H0 (9D) 5C");
         gArray->MoveCard(Card("5C"), Home, 2, 0, kind);
         EXPECT_EQ(mFunc::CardFaceMode(Card("9D")), 1);
         EXPECT_EQ(gTrans->MaxTrans(), 0);
-        EXPECT_EQ(gArray->GetTop(Home, 0), kind == tMod::UndoRedo ? 0 : 1)
-            << "repositioning leaves the tops alone";
-    }
-}
-
-TEST_F(MoveCard, AFullFoundationRefusesInSilence) {
-    TestGame game;
-    game.Ext.Cards = 104;
-    mPosition::Begin(game);
-    mPosition::Lay(Goal, 0, "AS-KS");
-    mPosition::Lay(Home, 0, "5C AH");
-    const Point before{PicBack.PicCards(Card("AH")).Left, PicBack.PicCards(Card("AH")).Top};
-    gArray->MoveCard(Card("AH"), Goal, 0, 13);
-    EXPECT_EQ(mPosition::Pile(Home, 0), "5C AH");
-    EXPECT_EQ(PicBack.PicCards(Card("AH")).Left, before.X);
-    EXPECT_EQ(gTrans->MaxTrans(), 0);
-    game.Ext.GameType = GameType::CompleteRuns;
-    game.Ext.cDisAutoPlay = true;
-    mPosition::Begin(game);
-    mPosition::Lay(Goal, 0, "AS-KS");
-    mPosition::Lay(Home, 0, "5C AH");
-    gArray->MoveCard(Card("AH"), Goal, 0, 13);
-    EXPECT_EQ(gArray->GetTop(Goal, 0), 13);
-}
-
-// Speed counts the steps of the first card; the others jump.
-TEST_F(MoveCard, StepsOfTheAnimation) {
-    struct Row {
-        int Speed;
-        long Steps;
-    };
-    for (const Row& row : {Row{0, 0}, Row{1, 1}, Row{7, 7}}) {
-        mPosition::Begin({});
-        mPosition::Lay(Home, 0, "KH QS JD");
-        const long before = engine_.Layer.Stage.Steps;
-        gArray->MoveCard(Card("KH"), Home, 2, 0, tMod::Play, row.Speed, 2);
-        EXPECT_EQ(engine_.Layer.Stage.Steps - before, row.Steps);
-        EXPECT_EQ(PicBack.PicCards(Card("JD")).Left, 1790 + 2400);
+        EXPECT_EQ(gArray->GetTop(Home, 0), kind == tMod::UndoRedo ? 0 : 1);
     }
 }
 
@@ -229,8 +143,7 @@ TEST_F(MoveCard, AutoplayFollowsPlayedMovesOnly) {
           Row{tMod::ToStock, false, false}, Row{tMod::UndoRedo, false, false}, Row{tMod::Deal, false, false},
           Row{tMod::Reposition, false, false}}) {
         mPosition::Begin({});
-        mPosition::Lay(Home, 0, "5C AS");
-        mPosition::Lay(Home, 1, "9H");
+        mScript::Lay("H0 5C AS; H1 9H");
         gArray->MoveCard(Card("9H"), Home, 2, 0, row.Kind, 0, 0, 0, row.Disabled);
         EXPECT_EQ(gArray->GetTop(Goal, 0), row.Follows ? 0 : -1) << Number(row.Kind);
     }
@@ -238,18 +151,12 @@ TEST_F(MoveCard, AutoplayFollowsPlayedMovesOnly) {
 
 TEST_F(MoveCard, PlacesOutsideTheTables) {
     mPosition::Begin({});
-    mPosition::Lay(Home, 0, "5C");
-    EXPECT_EQ(gArray->GetTop(Home, 1), -1);
     EXPECT_THROW((void)gArray->GetTopPicID(Home, 1), std::out_of_range);
     EXPECT_THROW((void)gArray->GetPicID(Home, 21, 0), std::out_of_range);
     EXPECT_THROW((void)gArray->GetPicID(5, 0, 0), std::out_of_range);
     EXPECT_THROW((void)gArray->GetPicID(Home, 0, 53), std::out_of_range);
     EXPECT_THROW((void)gArray->GetRandom(52), std::out_of_range);
-    EXPECT_THROW((void)PicBack.PicCards(104), std::out_of_range);
     EXPECT_EQ(gArray->GetPicID(Home, 0, 52), -1);
-    gArray->ReduceOne(Home, 0);
-    EXPECT_EQ(gArray->GetTop(Home, 0), -1);
-    EXPECT_EQ(mFunc::CardCell(Card("5C")), Home) << "its record stays";
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
+#include <vector>
 
 #include "rules/mCards.h"
 #include "rules/mFunc.h"
@@ -34,16 +35,42 @@ constexpr int DeckCards = 52;
 constexpr int WaitingPile = 20;
 
 int Value(std::string_view name) {
-    const auto fault = [&] { return std::invalid_argument("no card: " + std::string(name)); };
-    if (name.size() < 2) throw fault();
-    const auto rank = ranks.find(name[0]);
-    const auto suit = suits.find(name[1]);
     const bool second = name.size() == 3 && name[2] == '\'';
+    const auto rank = name.empty() ? std::string_view::npos : ranks.find(name[0]);
+    const auto suit = name.size() < 2 ? std::string_view::npos : suits.find(name[1]);
     if (rank == std::string_view::npos || suit == std::string_view::npos ||
         name.size() > (second ? 3U : 2U)) {
-        throw fault();
+        throw std::invalid_argument("no card: " + std::string(name));
     }
     return static_cast<int>(suit) * Ranks + static_cast<int>(rank) + (second ? DeckCards : 0);
+}
+
+std::string NameOf(int value) {
+    std::string name{ranks[static_cast<std::size_t>(value % Ranks)],
+                     suits[static_cast<std::size_t>(value % DeckCards / Ranks)]};
+    if (value >= DeckCards) name += '\'';
+    return name;
+}
+
+struct Written {
+    int Value;
+    bool Closed;
+};
+
+// What a text like "KS (4C) AH-KH" says.
+std::vector<Written> Read(const std::string& cards) {
+    std::vector<Written> all;
+    std::istringstream words(cards);
+    for (std::string word; words >> word;) {
+        const bool closed = word.front() == '(';
+        if (closed) word = word.substr(1, word.size() - 2);
+        const auto dash = word.find('-');
+        const int first = Value(word.substr(0, dash));
+        const int last = dash == std::string::npos ? first : Value(word.substr(dash + 1));
+        const int step = first <= last ? 1 : -1;
+        for (int value = first; value != last + step; value += step) all.push_back({value, closed});
+    }
+    return all;
 }
 
 int WithValue(int value) {
@@ -96,32 +123,25 @@ void Deal(const TestGame& game, double number) {
 
 int Card(const std::string& name) { return WithValue(Value(name)); }
 
-std::string Name(int PicID) {
-    const int value = gArray->GetRandom(PicID);
-    std::string name{ranks[static_cast<std::size_t>(value % Ranks)],
-                     suits[static_cast<std::size_t>(value % DeckCards / Ranks)]};
-    if (value >= DeckCards) name += '\'';
-    return name;
-}
+std::string Name(int PicID) { return NameOf(gArray->GetRandom(PicID)); }
 
 void Lay(int Cell, int Pile, const std::string& cards) {
-    std::istringstream words(cards);
-    for (std::string word; words >> word;) {
-        const bool closed = word.front() == '(';
-        if (closed) word = word.substr(1, word.size() - 2);
-        const auto dash = word.find('-');
-        const int first = Value(word.substr(0, dash));
-        const int last = dash == std::string::npos ? first : Value(word.substr(dash + 1));
-        const int step = first <= last ? 1 : -1;
-        for (int value = first; value != last + step; value += step)
-            LayCard(Cell, Pile, WithValue(value), closed);
-    }
+    for (const Written& card : Read(cards)) LayCard(Cell, Pile, WithValue(card.Value), card.Closed);
 }
 
 void LayRestOnStock() {
     for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
         if (mFunc::CardPile(PicID) == WaitingPile) LayCard(Stock, 0, PicID, true);
     }
+}
+
+std::string InFull(const std::string& cards) {
+    std::string text;
+    for (const Written& card : Read(cards)) {
+        if (!text.empty()) text += ' ';
+        text += card.Closed ? '(' + NameOf(card.Value) + ')' : NameOf(card.Value);
+    }
+    return text;
 }
 
 std::string Pile(int Cell, int Pile) {

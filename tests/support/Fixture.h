@@ -69,6 +69,9 @@ void Lay(int Cell, int Pile, const std::string& cards);
 /// All cards that lie nowhere yet go to the stock, closed.
 void LayRestOnStock();
 
+/// A text that Lay reads, without rows.
+[[nodiscard]] std::string InFull(const std::string& cards);
+
 /// The cards of a pile in the way that Lay reads them, without rows.
 [[nodiscard]] std::string Pile(int Cell, int Pile);
 
