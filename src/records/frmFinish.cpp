@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -42,10 +43,11 @@ void frmFinish::AddButton(const char* key, const QString& caption, bool enabled)
     QAction* action = Toolbar1->addAction(caption);
     action->setObjectName(name);
     action->setEnabled(enabled);
-    QWidget* button = Toolbar1->widgetForAction(action);
+    auto* button = qobject_cast<QToolButton*>(Toolbar1->widgetForAction(action));
     button->setObjectName(name);
-    button->setFocusPolicy(
-        Qt::StrongFocus);  // a toolbar's buttons are out of the keyboard's reach by default
+    // A toolbar's buttons are bare texts, and out of the keyboard's reach, unless they are told otherwise.
+    button->setAutoRaise(false);
+    button->setFocusPolicy(Qt::StrongFocus);
 }
 
 void frmFinish::BuildToolbar() {
@@ -58,8 +60,10 @@ void frmFinish::BuildToolbar() {
     AddButton("Statistics", tr("Statistics"));
     AddButton("Highscore", tr("High Score"));
     AddButton("Close", tr("Close"));
-    // All six stay in sight, whatever the font.
-    Toolbar1->setMinimumWidth(Toolbar1->sizeHint().width());
+    // All six stay in sight, whatever the font; on a screen too small for that, a menu at the end holds the
+    // rest.
+    Toolbar1->setMinimumWidth(
+        std::min(Toolbar1->sizeHint().width(), screen()->availableSize().width() * 3 / 4));
     connect(Toolbar1, &QToolBar::actionTriggered, this, [this](const QAction* action) {
         const QString key = action->objectName();
         if (key == QStringLiteral("New")) Leave(AfterGame::NewGame);

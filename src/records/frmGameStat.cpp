@@ -41,12 +41,33 @@ void FitWidth(QTreeView* list) {
     list->setMinimumWidth(width + 2 * list->frameWidth());
 }
 
+/// Selects the row of a game or player, and brings it into sight.
+void SelectNamed(TextTable* table, const QString& name) {
+    const QModelIndexList found = table->model()->match(table->model()->index(0, 0), Qt::DisplayRole, name, 1,
+                                                        Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (!found.isEmpty()) table->Select(found.constFirst().row());
+}
+
+QLayout* Column(ChartView* chart, int below) {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(0);
+    column->addWidget(chart);
+    column->addSpacing(below);
+    return column;
+}
+
+/// A chart beside one that has labels of as many lines.
+QLayout* Level(ChartView* chart) { return Column(chart, 0); }
+
+/// A chart whose labels have one line, beside one whose labels have two: the bars stand on one level.
+QLayout* Raised(ChartView* chart) { return Column(chart, chart->fontMetrics().height()); }
+
 /// The table above, the two charts side by side below, and between them whose charts they are.
-void Arrange(QWidget* frame, TextTable* table, QBoxLayout* choice, ChartView* left, ChartView* right,
+void Arrange(QWidget* frame, TextTable* table, QBoxLayout* choice, QLayout* left, ChartView* right,
              int rightWidth) {
     constexpr int LeftWidth = 2;
     auto* charts = new QHBoxLayout;
-    charts->addWidget(left, LeftWidth);
+    charts->addLayout(left, LeftWidth);
     charts->addWidget(right, rightWidth);
     auto* all = new QVBoxLayout(frame);
     all->addWidget(table, 4);
@@ -73,6 +94,15 @@ frmGameStat::frmGameStat(QWidget* owner) : QDialog(owner) {
     all->addLayout(BuildButtons());
     ShowAll();
     connect(cmGames, &QComboBox::currentIndexChanged, this, &frmGameStat::ShowGame);
+    // A row chosen in a list is chosen for the charts below it.
+    const auto choose = [this](TextTable* table, QComboBox* choice) {
+        connect(table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+                [choice](const QModelIndex& row) {
+                    choice->setCurrentText(row.siblingAtColumn(0).data().toString());
+                });
+    };
+    choose(lvGames, cmGames);
+    choose(lvPlayer, imcPlayer);
     connect(imcDate, &QComboBox::currentIndexChanged, this, &frmGameStat::ShowDates);
     connect(imcPlayer, &QComboBox::currentIndexChanged, this, &frmGameStat::ShowPlayer);
     mDialog::FirstSize(this, {std::max(sizeHint().width(), fontMetrics().averageCharWidth() * 140),
@@ -88,7 +118,7 @@ QWidget* frmGameStat::BuildGeneral() {
     chGen1 = new ChartView("chGen1", tr("Score, moves and time"), Kind::Effort);
     auto* all = new QHBoxLayout(Frame2);
     all->addWidget(lvGeneral, 3);
-    all->addWidget(chGen, 4);
+    all->addLayout(Raised(chGen), 4);
     all->addWidget(chGen1, 4);
     return Frame2;
 }
@@ -102,7 +132,7 @@ QWidget* frmGameStat::BuildGames() {
     mDialog::FillCombo(cmGames, QIcon(), mStatistics::SortedGames(), gData->LastGName());
     chGames = new ChartView("chGames", tr("Games won and lost"), Kind::Result);
     chGames1 = new ChartView("chGames1", tr("Score, moves and time of each game"), Kind::Strips);
-    Arrange(Frame1, lvGames, mDialog::Labelled(tr("&Game:"), cmGames), chGames, chGames1, 5);
+    Arrange(Frame1, lvGames, mDialog::Labelled(tr("&Game:"), cmGames), Level(chGames), chGames1, 5);
     return Frame1;
 }
 
@@ -140,7 +170,7 @@ QWidget* frmGameStat::BuildPlayers() {
     mDialog::FillCombo(imcPlayer, ilsIcons::Player(), mPlayers::Names(), gData->CurPlayer());
     chPlayer = new ChartView("chPlayer", tr("Games won and lost"), Kind::Result);
     chPlayer1 = new ChartView("chPlayer1", tr("Score, moves and time"), Kind::Effort);
-    Arrange(Frame4, lvPlayer, mDialog::Labelled(tr("P&layer:"), imcPlayer), chPlayer, chPlayer1, 3);
+    Arrange(Frame4, lvPlayer, mDialog::Labelled(tr("P&layer:"), imcPlayer), Raised(chPlayer), chPlayer1, 3);
     return Frame4;
 }
 
@@ -179,6 +209,7 @@ void frmGameStat::ShowAll() {
 
 void frmGameStat::ShowGame() {
     const std::string game = cmGames->currentText().toStdString();
+    SelectNamed(lvGames, cmGames->currentText());
     chGames->SetData(mStatistics::ResultChart(gScore->GameStat(game)));
     chGames1->SetData(mStatistics::RecordsChart(game));
 }
@@ -193,6 +224,7 @@ void frmGameStat::ShowDates() {
 }
 
 void frmGameStat::ShowPlayer() {
+    SelectNamed(lvPlayer, imcPlayer->currentText());
     const tStat stat = gScore->PlayerStat(imcPlayer->currentText().toStdString());
     chPlayer->SetData(mStatistics::ResultChart(stat));
     chPlayer1->SetData(mStatistics::EffortChart(stat));

@@ -84,7 +84,7 @@ void frmPlayers::Edit() {
 
 void frmPlayers::Delete() {
     mPlayers::Delete(mList::Selected(lvPlayer).toStdString());
-    UpdateLVPlayer();
+    if (players_->rowCount() != gData->TotalPlayers()) UpdateLVPlayer();  // else the player has been kept
 }
 
 void frmPlayers::Select() {

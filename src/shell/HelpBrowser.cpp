@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "shell/cData.h"
+#include "shell/mDialog.h"
 #include "shell/mHelpPages.h"
 #include "shell/mRules.h"
 #include "shell/mTablePicture.h"
@@ -44,6 +45,10 @@ HelpBrowser::HelpBrowser(QWidget* parent) : QTextBrowser(parent) {
     setAccessibleName(tr("Page"));
     setOpenExternalLinks(false);
     document()->setDocumentMargin(fontMetrics().height());
+    // Not every dark theme has a colour of its own for links, and the usual blue is lost on a dark page.
+    QPalette colors = palette();
+    colors.setColor(QPalette::Link, mDialog::Readable(colors.color(QPalette::Link), colors));
+    setPalette(colors);
 }
 
 void HelpBrowser::Show(const QUrl& address) { setSource(address); }

@@ -4,7 +4,31 @@
 #include <utility>
 
 #include <QHeaderView>
+#include <QStyledItemDelegate>
 #include <QTreeView>
+
+#include "shell/mDialog.h"
+
+namespace {
+
+/// Rows with as much air as those of a table.
+class Rows : public QStyledItemDelegate {
+public:
+    explicit Rows(QTreeView* list) : QStyledItemDelegate(list), list_(list) {}
+
+    [[nodiscard]] QString displayText(const QVariant& value, const QLocale& locale) const override {
+        return mDialog::Padded(QStyledItemDelegate::displayText(value, locale));
+    }
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override {
+        return {QStyledItemDelegate::sizeHint(option, index).width(), mDialog::RowHeight(list_)};
+    }
+
+private:
+    QTreeView* list_;
+};
+
+}  // namespace
 
 ListModel::ListModel(QString heading, const QIcon& icon, Qt::AlignmentFlag side)
     : TableModel({{.Heading = std::move(heading), .Side = side}}) {
@@ -34,6 +58,7 @@ QTreeView* MakeView(const char* name, ListModel* model) {
     view->setItemsExpandable(false);
     view->setUniformRowHeights(true);
     view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setItemDelegate(new Rows(view));
     view->setModel(model);
     model->setParent(view);
     view->setHeaderHidden(model->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString().isEmpty());

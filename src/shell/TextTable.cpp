@@ -11,16 +11,12 @@
 #include <QStyledItemDelegate>
 
 #include "shell/TableModel.h"
+#include "shell/mDialog.h"
 
 namespace {
 
 // A longer table is measured by its first rows and by the texts that its columns name as usual.
 constexpr int MeasuredRows = 500;
-
-// Beside every text, so that a number and the text of the next column stand apart.
-QString Padded(const QString& text) {
-    return QChar(QChar::Nbsp) + text + QChar(QChar::Nbsp);  // usual blanks are cut off at the right
-}
 
 class Headings : public QHeaderView {
 public:
@@ -29,7 +25,7 @@ public:
 protected:
     void initStyleOptionForIndex(QStyleOptionHeader* option, int section) const override {
         QHeaderView::initStyleOptionForIndex(option, section);
-        option->text = Padded(option->text);
+        option->text = mDialog::Padded(option->text);
     }
 };
 
@@ -38,7 +34,7 @@ public:
     explicit Cells(QTableView* table) : QStyledItemDelegate(table), table_(table) {}
 
     [[nodiscard]] QString displayText(const QVariant& value, const QLocale& locale) const override {
-        return Padded(QStyledItemDelegate::displayText(value, locale));
+        return mDialog::Padded(QStyledItemDelegate::displayText(value, locale));
     }
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -138,11 +134,7 @@ QModelIndex TextTable::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
     return QTableView::moveCursor(action, modifiers);
 }
 
-void TextTable::SizeRows() {
-    const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
-    verticalHeader()->setDefaultSectionSize(std::max(fontMetrics().height(), icon) +
-                                            fontMetrics().height() / 4);
-}
+void TextTable::SizeRows() { verticalHeader()->setDefaultSectionSize(mDialog::RowHeight(this)); }
 
 void TextTable::MeasureColumns() {
     if (model() != rows_) return;
@@ -157,15 +149,15 @@ void TextTable::MeasureColumns() {
         const auto at = static_cast<std::size_t>(column);
         int text = 0;
         for (const QString& usual : rows_->Columns()[at].Usual) {
-            text = std::max(text, metrics.horizontalAdvance(Padded(usual)));
+            text = std::max(text, metrics.horizontalAdvance(mDialog::Padded(usual)));
         }
         for (int row = 0; row < rows; ++row) {
-            text = std::max(text,
-                            metrics.horizontalAdvance(Padded(rows_->index(row, column).data().toString())));
+            text = std::max(text, metrics.horizontalAdvance(
+                                      mDialog::Padded(rows_->index(row, column).data().toString())));
         }
         const bool hasIcon = rows > 0 && rows_->index(0, column).data(Qt::DecorationRole).isValid();
-        const int heading =
-            horizontalHeader()->sectionSizeHint(column) + metrics.horizontalAdvance(Padded(QString()));
+        const int heading = horizontalHeader()->sectionSizeHint(column) +
+                            metrics.horizontalAdvance(mDialog::Padded(QString()));
         // Only wider, so that columns do not jump from one selection to the next.
         needed_[at] = std::max({needed_[at], text + margin + (hasIcon ? icon + margin : 0), heading});
     }

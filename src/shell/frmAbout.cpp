@@ -9,6 +9,7 @@
 #include <fmt/core.h>
 
 #include "shell/cData.h"
+#include "shell/mDialog.h"
 #include "shell/mIcons.h"
 
 frmAbout::frmAbout(QWidget* owner) : QDialog(owner) {
@@ -49,7 +50,6 @@ frmAbout::frmAbout(QWidget* owner) : QDialog(owner) {
         auto* line = new QLabel(lines[i]);
         line->setObjectName(QStringLiteral("lblLine%1").arg(i + 1));
         line->setWordWrap(true);
-        line->setMinimumWidth(fontMetrics().averageCharWidth() * 56);
         line->setTextInteractionFlags(Qt::TextSelectableByMouse);
         texts->addWidget(line);
     }
@@ -65,5 +65,7 @@ frmAbout::frmAbout(QWidget* owner) : QDialog(owner) {
     auto* all = new QVBoxLayout(this);
     all->addLayout(top);
     all->addWidget(cmdOK, 0, Qt::AlignRight);
+    const int beside = all->sizeHint().width() - texts->sizeHint().width();
+    mDialog::FirstSize(this, {fontMetrics().averageCharWidth() * 66 + beside, 0});
     cmdOK->setFocus();
 }

@@ -30,6 +30,7 @@ QIcon Swatch(const QColor& color) {
         painter.drawRect(QRectF(2.0, 2.0, 12.0, 12.0));
         painter.end();
         icon.addPixmap(square);
+        icon.addPixmap(square, QIcon::Selected);  // a sample of a colour is not tinted, as other icons are
     }
     return icon;
 }

@@ -16,8 +16,8 @@ class QWidget;
 
 namespace mDialog {
 
-/// Gives a dialog its first size: what it asks for, as far as its screen has room, and never less than
-/// its controls need.
+/// Gives a dialog, when all is in it, its first size: what it asks for, as far as its screen has room, and
+/// never less than its controls need. Where the screen has no room even for these, the dialog scrolls.
 void FirstSize(QWidget* dialog, const QSize& wanted);
 
 /// A drop-down list with that object name. It needs a label: a screen reader takes its own name to be what
@@ -30,10 +30,16 @@ void FillCombo(QComboBox* combo, const QIcon& icon, const std::vector<std::strin
 /// A line with a control behind its label, whose key leads to it; as wide as they need.
 [[nodiscard]] QBoxLayout* Labelled(const QString& label, QWidget* control);
 
+/// A list's text with air beside it, so that a number and the text of the next column, or the frame, stand
+/// apart.
+[[nodiscard]] QString Padded(const QString& text);
+/// The height of a row of a list: its text or icon, with air between the rows.
+[[nodiscard]] int RowHeight(const QWidget* list);
+
 /// Whether lists and charts stand light on dark.
 [[nodiscard]] bool IsDark(const QPalette& palette);
 /// A text colour chosen for a light ground, or on a dark one its equivalent: the same hue, as light as
-/// the colour was dark.
+/// the colour was dark, and light enough to be read.
 [[nodiscard]] QColor Readable(const QColor& color, const QPalette& palette);
 
 /// While one lives, the pointer shows that the program is busy. For what may take longer than a glance.

@@ -22,8 +22,10 @@ void Shutdown() {
     Forms& forms = gData->Layer().Forms;
     // A record that could not be written lives in memory only: the player gets a last chance to make room.
     while (gScore && !gScore->WriteKept()) {
-        if (!forms.Ask("Records of finished games could still not be written and will be lost.\nTry again?"))
+        if (!forms.AskToKeep(
+                "Records of finished games could still not be written and will be lost.\nTry again?")) {
             break;
+        }
     }
     gData->Layer().Help.CloseAll();
     mGen::ReleaseAll();

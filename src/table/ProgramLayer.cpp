@@ -24,32 +24,38 @@ QWidget* Owner(frmMain* main) {
 /// A message box; answers the button pressed. Names and paths may hold what looks like a tag, so the text
 /// is taken as it stands. Return presses the default button.
 int Show(frmMain* main, QMessageBox::Icon icon, const std::string& text, QMessageBox::StandardButtons buttons,
-         QMessageBox::StandardButton defaultButton = QMessageBox::NoButton) {
+         QMessageBox::StandardButton defaultButton) {
     QMessageBox box(icon, ProductName(), QString::fromStdString(text), buttons, Owner(main));
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(defaultButton);
     return box.exec();
 }
 
+void Tell(frmMain* main, QMessageBox::Icon icon, const std::string& text) {
+    (void)Show(main, icon, text, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+bool AskYesNo(frmMain* main, QMessageBox::Icon icon, const std::string& question,
+              QMessageBox::StandardButton safe) {
+    return Show(main, icon, question, QMessageBox::Yes | QMessageBox::No, safe) == QMessageBox::Yes;
+}
+
 }  // namespace
 
-void ProgramForms::Inform(const std::string& text) {
-    (void)Show(main_, QMessageBox::Information, text, QMessageBox::Ok);
-}
+void ProgramForms::Inform(const std::string& text) { Tell(main_, QMessageBox::Information, text); }
 
 bool ProgramForms::Ask(const std::string& question) {
-    return Show(main_, QMessageBox::Question, question, QMessageBox::Yes | QMessageBox::No) ==
-           QMessageBox::Yes;
+    return AskYesNo(main_, QMessageBox::Question, question, QMessageBox::No);
 }
 
-void ProgramForms::InformCritical(const std::string& text) {
-    (void)Show(main_, QMessageBox::Critical, text, QMessageBox::Ok);
+bool ProgramForms::AskToKeep(const std::string& question) {
+    return AskYesNo(main_, QMessageBox::Question, question, QMessageBox::Yes);
 }
+
+void ProgramForms::InformCritical(const std::string& text) { Tell(main_, QMessageBox::Critical, text); }
 
 bool ProgramForms::AskCritical(const std::string& question) {
-    // What it asks for cannot be taken back: a hasty Return must not do it.
-    return Show(main_, QMessageBox::Critical, question, QMessageBox::Yes | QMessageBox::No,
-                QMessageBox::No) == QMessageBox::Yes;
+    return AskYesNo(main_, QMessageBox::Critical, question, QMessageBox::No);
 }
 
 std::optional<std::string> ProgramForms::AskSaveFile(const std::string& name, const std::string& filter) {

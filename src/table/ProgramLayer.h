@@ -24,6 +24,7 @@ public:
 
     void Inform(const std::string& text) override;
     [[nodiscard]] bool Ask(const std::string& question) override;
+    [[nodiscard]] bool AskToKeep(const std::string& question) override;
     void InformCritical(const std::string& text) override;
     [[nodiscard]] bool AskCritical(const std::string& question) override;
     [[nodiscard]] std::optional<std::string> AskSaveFile(const std::string& name,

@@ -120,8 +120,10 @@ class Forms {
 public:
     virtual ~Forms() = default;
     virtual void Inform(const std::string& text) = 0;
-    /// True for Yes.
+    /// True for Yes. It takes something away for good, so a hasty Return answers No.
     [[nodiscard]] virtual bool Ask(const std::string& question) = 0;
+    /// The same where it is No that loses something.
+    [[nodiscard]] virtual bool AskToKeep(const std::string& question) { return Ask(question); }
     // The same with the icon that warns.
     virtual void InformCritical(const std::string& text) { Inform(text); }
     [[nodiscard]] virtual bool AskCritical(const std::string& question) { return Ask(question); }

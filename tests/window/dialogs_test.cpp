@@ -35,6 +35,7 @@
 #include "state/frmHistory.h"
 #include "state/mGen.h"
 #include "state/mLoad.h"
+#include "table/ProgramLayer.h"
 #include "table/cPlate.h"
 #include "table/mMain.h"
 #include "table/memorylayer.h"
@@ -467,6 +468,17 @@ TEST_F(Dialogs, TheEndOfAGameOffersWhatToDoNext) {
     QTest::keyClick(&dialog, Qt::Key_Escape);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.Choice(), AfterGame::Nothing);
+}
+
+TEST_F(Dialogs, AHastyReturnLosesNothing) {
+    ProgramForms forms;
+    const auto onReturn = [&forms](bool (ProgramForms::*ask)(const std::string&)) {
+        OnModal([](QWidget& box) { QTest::keyClick(&box, Qt::Key_Return); });
+        return (forms.*ask)("?");
+    };
+    EXPECT_FALSE(onReturn(&ProgramForms::Ask));
+    EXPECT_FALSE(onReturn(&ProgramForms::AskCritical));
+    EXPECT_TRUE(onReturn(&ProgramForms::AskToKeep)) << "here it is No that loses something";
 }
 
 TEST_F(Dialogs, TheHistoryMarksTheCurrentMoveAndTheUndoneOnes) {
