@@ -1,9 +1,10 @@
 // The text driver: every command on every game of a family, faults that must change nothing, and the
 // program itself on its pipe.
-#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <fstream>
+#include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -46,59 +47,41 @@ TEST_F(LabTest, EveryCommandOnEveryGameOfTheKlondikeFamily) {
         ASSERT_TRUE(started["running"]);
         EXPECT_EQ(started["name"], std::string(game.Name));
         EXPECT_EQ(started["number"], 17);
-        EXPECT_TRUE(started["draws"].is_array());
         const Json state = Ask("state");
         EXPECT_EQ(state, Without(started, "draws"));
         // All cards of the deck, once.
-        std::vector<bool> seen(static_cast<std::size_t>(game.Deck));
-        int someCard = -1;
+        std::set<int> values;
         for (const Json& piles : state["cells"]) {
             for (const Json& pile : piles) {
                 for (const Json& card : pile) {
                     ASSERT_EQ(card.size(), 5U);
-                    seen.at(card[1].get<std::size_t>()) = true;
-                    if (someCard < 0) someCard = card[0];
+                    values.insert(card[1].get<int>());
                 }
             }
         }
-        EXPECT_EQ(std::count(seen.begin(), seen.end(), false), 0);
+        EXPECT_EQ(values.size(), static_cast<std::size_t>(game.Deck));
         EXPECT_EQ(state["cells"][0].size(), static_cast<std::size_t>(game.HomePiles));
         EXPECT_EQ(state["cells"][3].size(), 8U);
 
-        EXPECT_TRUE(Ask("press " + std::to_string(someCard)).contains("picked"));
-        const Json dragged = Ask("drag " + std::to_string(someCard) + " 4000 3000");
-        EXPECT_TRUE(dragged["picked"].is_boolean());
-        const Json before = Ask("state");
+        EXPECT_TRUE(Ask("press 3").contains("picked"));
+        EXPECT_TRUE(Ask("drag 4 4000 3000")["picked"].is_boolean());
         EXPECT_FALSE(Ask("redeal").contains("error"));
-        Ask("undoall");
-        EXPECT_EQ(Ask("state")["trans"], 0);
-        Ask("redoall 0");
-        Ask("undo");
-        Ask("redo 7");
+        EXPECT_EQ(Ask("undoall")["trans"], 0);
+        for (const char* command : {"redoall 0", "undo", "redo 7"}) Ask(command);
         const Json again = Ask("state");
         EXPECT_EQ(again["trans"], again["maxtrans"]);
-        const Json log = Ask("log")["log"];
-        const Json history = Ask("history")["history"];
-        EXPECT_EQ(log.size(), again["maxtrans"].get<std::size_t>());
-        EXPECT_EQ(history.size(), log.size());
-        for (std::size_t i = 0; i < log.size(); ++i) {
-            EXPECT_EQ(log[i].size(), 10U);
-            EXPECT_EQ(history[i].size(), 5U);
-            EXPECT_EQ(history[i][0], std::to_string(i + 1));
-            EXPECT_EQ(history[i][4], i + 1 == log.size() ? "current" : "plain");
-        }
+        EXPECT_EQ(Ask("log")["log"].size(), again["maxtrans"].get<std::size_t>());
+        EXPECT_EQ(Ask("history")["history"].size(), again["maxtrans"].get<std::size_t>());
         const int autoplay = again["autoplay"];
         EXPECT_EQ(Ask("autoplay")["autoplay"], 1 - autoplay);
         EXPECT_EQ(Ask("autoplay")["autoplay"], autoplay);
         const Json ticked = Ask("tick 61");
-        if (ticked["running"]) {
-            EXPECT_EQ(ticked["time"], 61);
-            EXPECT_EQ(ticked["status"][1], "Time :0:01:01");
-        }
-        const std::size_t ended = ticked["session"].size();
-        const Json closed = ticked["running"] ? Ask("close") : ticked;
+        ASSERT_TRUE(ticked["running"]);
+        EXPECT_EQ(ticked["time"], 61);
+        EXPECT_EQ(ticked["status"][1], "Time :0:01:01");
+        const Json closed = Ask("close");
         EXPECT_FALSE(closed["running"]);
-        EXPECT_EQ(closed["session"].size(), ended + (ticked["running"] ? 1 : 0));
+        EXPECT_EQ(closed["session"].size(), ticked["session"].size() + 1);
         for (const Json& piles : closed["cells"]) {
             for (const Json& pile : piles) EXPECT_TRUE(pile.empty());
         }
@@ -118,59 +101,17 @@ TEST_F(LabTest, FaultsChangeNothing) {
     Ask(Start("Klondike", "3"));
     Ask("tick 5");
     const Json before = Ask("state");
-    const char* faulty[] = {
-        "nonsense",
-        "State",
-        "games 1",
-        "state 1",
-        "define",
-        "define Klondike",
-        "define \"klondike\"",
-        "define 3",
-        "start \"Klondike\"",
-        "start \"Klondike\" 1 2",
-        "start \"No game\" 1",
-        "start \"Klondike\" \"x\"",
-        "start \"Klondike\" null",
-        "start \"Klondike\" 1e999",
-        "start \"Klondike\" \"\"",
-        "start 1 1",
-        "press",
-        "press 52",
-        "press -1",
-        "press 104",
-        "press 1.0",
-        "press \"1\"",
-        "press 18446744073709551615",
-        "press 4294967296",
-        "drag 1",
-        "drag 1 2",
-        "drag 1 2 x",
-        "drag 1 40000 0",
-        "drag 1 0 -40000",
-        "drag 60 0 0",
-        "undo -1",
-        "undo 1 2",
-        "undo 1e3",
-        "redo \"1\"",
-        "undoall 40000",
-        "tick",
-        "tick -1",
-        "tick \"1\"",
-        "tick 1e300",
-        "log 1",
-        "history 1",
-        "autoplay 1",
-        "close 1",
-        "redeal 1",
-        "press {",
-        "press [1",
-        "\"state\"",
-        "start \"Klondike 1",
-        "\xff\xfe",
-        "press \xff",
-    };
-    for (const char* line : faulty) {
+    std::istringstream faulty(
+        "nonsense\nState\ngames 1\nstate 1\ndefine\ndefine Klondike\ndefine \"klondike\"\n"
+        "define 3\nstart \"Klondike\"\nstart \"Klondike\" 1 2\nstart \"No game\" 1\n"
+        "start \"Klondike\" \"x\"\nstart \"Klondike\" null\nstart \"Klondike\" 1e999\n"
+        "start \"Klondike\" \"\"\nstart 1 1\npress\npress 52\npress -1\npress 104\npress 1.0\n"
+        "press \"1\"\npress 18446744073709551615\npress 4294967296\ndrag 1\ndrag 1 2\n"
+        "drag 1 2 x\ndrag 1 40000 0\ndrag 1 0 -40000\ndrag 60 0 0\nundo -1\nundo 1 2\nundo 1e3\n"
+        "redo \"1\"\nundoall 40000\ntick\ntick -1\ntick \"1\"\ntick 1e300\nlog 1\nhistory 1\n"
+        "autoplay 1\nclose 1\nredeal 1\npress {\npress [1\n\"state\"\nstart \"Klondike 1\n"
+        "\xff\xfe\npress \xff");
+    for (std::string line; std::getline(faulty, line);) {
         const Json answer = Ask(line);
         EXPECT_TRUE(answer.size() == 1 && answer.contains("error")) << line;
         EXPECT_EQ(Ask("state"), before) << line;
@@ -209,48 +150,23 @@ TEST_F(LabTest, DragMovesExactlyAndPressPicks) {
     EXPECT_EQ(Ask("history")["history"][0][4], "undone");
 }
 
-// The length of the longest row of digits that begins with another one than zero.
-std::size_t MostDigits(const std::string& text) {
-    constexpr const char* digits = "0123456789";
-    std::size_t most = 0;
-    for (std::size_t at = text.find_first_of("123456789"); at != std::string::npos;) {
-        const std::size_t end = std::min(text.find_first_not_of(digits, at), text.size());
-        most = std::max(most, end - at);
-        at = text.find_first_of("123456789", end);
-    }
-    return most;
-}
-
+// A random spread draws once a card, and the places of its cards follow from the draws.
 TEST_F(LabTest, DrawsAreWhatTheDealDrew) {
-    struct Row {
-        const char* Game;
-        std::size_t Fewest, Most;
-    };
-    // A random spread draws once a card, a random base rank once a game.
-    for (const Row& row : {Row{"Klondike", 0, 0}, Row{"Mobile Gallery", 52, 52}, Row{"Penguin", 0, 0}}) {
-        const std::string answer = lab_.Answer(Start(row.Game, "7"));
-        EXPECT_LE(MostDigits(answer.substr(answer.find("\"draws\""))), 9U);
-        const Json draws = Json::parse(answer)["draws"];
-        EXPECT_GE(draws.size(), row.Fewest) << row.Game;
-        EXPECT_LE(draws.size(), row.Most) << row.Game;
-        for (const Json& draw : draws) {
-            EXPECT_GE(draw.get<double>(), 0.0);
-            EXPECT_LT(draw.get<double>(), 1.0);
-        }
-    }
-    // The places of a spread follow from its draws.
-    const Json state = Ask(Start("Mobile Gallery", "7"));
-    const Json& draws = state["draws"];
-    const auto piles = static_cast<double>(state["cells"][0].size() - 1);
-    std::vector<std::size_t> expected(state["cells"][0].size());
-    for (const Json& draw : draws)
-        ++expected[static_cast<std::size_t>(std::nearbyint(draw.get<double>() * piles))];
-    std::vector<std::size_t> found;
+    for (const char* game : {"Klondike", "Penguin"}) EXPECT_TRUE(Ask(Start(game, "7"))["draws"].empty());
     Ask("autoplay");
-    Ask("undoall 0");
-    const Json dealt = Ask("state");
-    for (const Json& pile : dealt["cells"][0]) found.push_back(pile.size());
-    EXPECT_EQ(found, expected);
+    const std::string answer = lab_.Answer(Start("Mobile Gallery", "7"));
+    EXPECT_THAT(answer, testing::MatchesRegex(".*\"draws\":\\[(0\\.0*[1-9][0-9]{0,8}[],])+}"))
+        << "nine digits";
+    const Json state = Json::parse(answer);
+    EXPECT_EQ(state["draws"].size(), 52U);
+    const std::size_t piles = state["cells"][0].size();
+    std::vector<std::size_t> expected(piles);
+    for (const Json& draw : state["draws"]) {
+        const double place = draw.get<double>() * static_cast<double>(piles - 1);
+        ++expected.at(static_cast<std::size_t>(std::nearbyint(place)));
+    }
+    for (std::size_t pile = 0; pile < piles; ++pile)
+        EXPECT_EQ(state["cells"][0][pile].size(), expected[pile]);
 }
 
 TEST_F(LabTest, NumbersKeepTheirKind) {

@@ -15,37 +15,25 @@
 #include "state/cTrans.h"
 #include "state/mGen.h"
 #include "support/Fixture.h"
+#include "support/Hash.h"
 #include "table/cPlate.h"
 #include "table/mMain.h"
 
 namespace {
 
-class Hash {
-public:
-    void Fold(int value) {
-        value_ = (value_ ^ static_cast<std::uint32_t>(value)) * 1099511628211U;
-        value_ ^= value_ >> 29;
+void FoldPosition(Hash& hash) {
+    for (const int value : {gData->Figures.GameRunning ? 1 : 0, gTrans->GetTransID(), gGoalBase,
+                            gGames->EmptyNum, Number(gGames->StockNum), gRedealCount}) {
+        hash.Fold(value);
     }
-    void FoldPosition() {
-        Fold(gData->Figures.GameRunning ? 1 : 0);
-        Fold(gTrans->GetTransID());
-        Fold(gGoalBase);
-        Fold(gGames->EmptyNum);
-        Fold(Number(gGames->StockNum));
-        Fold(gRedealCount);
-        for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
-            const CardRecord& card = PicBack.PicCards(PicID);
-            for (const int value :
-                 {card.Cell, card.Pile, card.Pos, card.FaceMode, card.Left, card.Top, card.MainPic}) {
-                Fold(value);
-            }
+    for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
+        const CardRecord& card = PicBack.PicCards(PicID);
+        for (const int value :
+             {card.Cell, card.Pile, card.Pos, card.FaceMode, card.Left, card.Top, card.MainPic}) {
+            hash.Fold(value);
         }
     }
-    [[nodiscard]] std::uint64_t Value() const { return value_; }
-
-private:
-    std::uint64_t value_ = 14695981039346656037U;
-};
+}
 
 // A card and where to; a press on the stock or a click on its mark have no card.
 struct Action {
@@ -97,14 +85,14 @@ TEST(Signature, OfAllGames) {
     long moves = 0;
     for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) {
         mGen::StartGame(gData->GetGame(SiD), SiD * 7.0);
-        hash.FoldPosition();
+        FoldPosition(hash);
         for (int step = 1; step <= Actions && gData->Figures.GameRunning; ++step) {
             const std::vector<Action> actions = LegalActions();
             if (actions.empty()) break;
             choice = choice * 6364136223846793005U + 1442695040888963407U;
             Make(actions[static_cast<std::size_t>((choice >> 33) % actions.size())]);
             if (step % UndoEvery == 0) mMain::Undo(0);
-            hash.FoldPosition();
+            FoldPosition(hash);
         }
         moves += gTrans->GetTransID();
     }
