@@ -16,6 +16,7 @@
 #include "state/mGen.h"
 #include "support/Fixture.h"
 #include "support/Hash.h"
+#include "support/RandomPlayer.h"
 #include "table/cPlate.h"
 #include "table/mMain.h"
 
@@ -47,16 +48,10 @@ std::vector<Action> LegalActions() {
     for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
         int above = 0;
         if (!PicBack.PicCards(PicID).Visible || !mFunc::CanLift(PicID, above)) continue;
-        const int Cell = mFunc::CardCell(PicID);
-        const int Pile = mFunc::CardPile(PicID);
-        for (int p = 0; p < gGames->Piles(Home); ++p) {
-            if (mFunc::HomeAccepts(PicID, Cell, Pile, p)) actions.push_back({PicID, Home, p});
-        }
-        for (int p = 0; p < gGames->Piles(Res); ++p) {
-            if (mFunc::ResAccepts(p, above)) actions.push_back({PicID, Res, p});
-        }
-        for (int p = 0; p < gGames->Piles(Goal); ++p) {
-            if (mFunc::GoalAccepts(PicID, p, above)) actions.push_back({PicID, Goal, p});
+        for (const int Cell : {Home, Res, Goal}) {
+            for (int p = 0; p < gGames->Piles(Cell); ++p) {
+                if (Accepts(PicID, above, Cell, p)) actions.push_back({PicID, Cell, p});
+            }
         }
     }
     if (gArray->GetTop(Stock) >= 0 ? gGames->StockType() != StockType::Open

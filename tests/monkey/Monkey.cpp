@@ -46,8 +46,6 @@ QPoint Monkey::PointIn(const QWidget* widget) {
 
 void Monkey::FollowLink(const QUrl&) { mDiary::Count("links"); }
 
-void Monkey::Note(const std::string& action) { mDiary::Note(action); }
-
 void Monkey::Act() {
     if (!window_) return;
     // Before anything else: a dialog that opens below runs an event loop of its own, in which the monkey
@@ -83,7 +81,7 @@ void Monkey::Act() {
     } else if (QWidget* dialog = QApplication::activeModalWidget()) {
         OnDialog(dialog);
     } else if (number > lastAction_ && !mGen::Dealing()) {
-        Note("close the main window");
+        mDiary::Note("close the main window");
         mDiary::Count("starts");
         window_->close();
     } else {

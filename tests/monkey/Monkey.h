@@ -78,7 +78,6 @@ private:
     void TypeText(QWidget* window);
     void Calm();
 
-    void Note(const std::string& action);
     int Pick(int limit) { return static_cast<int>(random_() % static_cast<std::uint32_t>(limit)); }
     bool Chance(int percent) { return Pick(100) < percent; }
     template <typename List>

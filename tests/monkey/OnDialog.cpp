@@ -27,14 +27,13 @@ std::string NameOf(const QObject* object) {
     return name;
 }
 
-QList<QWidget*> ControlsOf(const QWidget* window) {
-    QList<QWidget*> controls;
-    for (QWidget* child : window->findChildren<QWidget*>()) {
-        if (child->window() == window && child->isVisible() && child->isEnabled() &&
-            !child->size().isEmpty()) {
-            controls << child;
-        }
-    }
+template <typename Control>
+QList<Control*> InReach(const QWidget* window) {
+    QList<Control*> controls = window->findChildren<Control*>();
+    controls.removeIf([&](const Control* control) {
+        return control->window() != window || !control->isVisible() || !control->isEnabled() ||
+               control->size().isEmpty();
+    });
     return controls;
 }
 
@@ -44,13 +43,11 @@ void Monkey::OnPopup(QWidget* popup) {
     const int choice = Pick(100);
     auto* menu = qobject_cast<QMenu*>(popup);
     if (menu && choice < 60) {
-        QList<QAction*> actions;
-        for (QAction* action : menu->actions()) {
-            if (action->isVisible() && !action->isSeparator()) actions << action;
-        }
+        QList<QAction*> actions = menu->actions();
+        actions.removeIf([](const QAction* action) { return !action->isVisible() || action->isSeparator(); });
         if (!actions.isEmpty()) {
             QAction* action = OneOf(actions);
-            Note("choose \"" + action->text().toStdString() + "\" of " + NameOf(menu));
+            mDiary::Note("choose \"" + action->text().toStdString() + "\" of " + NameOf(menu));
             hands_.Click(menu, menu->actionGeometry(action).center());
             return;
         }
@@ -61,13 +58,13 @@ void Monkey::OnPopup(QWidget* popup) {
     } else if (choice < 75) {
         PressKey(popup);
     } else if (choice < 85) {
-        Note("move over " + NameOf(popup));
+        mDiary::Note("move over " + NameOf(popup));
         hands_.Move(popup, PointIn(popup));
     } else if (choice < 93) {
-        Note("press outside of " + NameOf(popup));
+        mDiary::Note("press outside of " + NameOf(popup));
         hands_.Click(popup, QPoint(-20, -20));
     } else {
-        Note("Escape in " + NameOf(popup));
+        mDiary::Note("Escape in " + NameOf(popup));
         hands_.Key(popup, Qt::Key_Escape);
     }
 }
@@ -85,21 +82,21 @@ void Monkey::OnDialog(QWidget* dialog) {
     if (auto* files = qobject_cast<QFileDialog*>(dialog)) return OnFileDialog(files);
     if (turns < 0) return LeaveDialog(dialog, -turns);
     const int choice = Pick(100);
-    const QList<QWidget*> controls = ControlsOf(dialog);
+    const QList<QWidget*> controls = InReach<QWidget>(dialog);
     if (choice < 78 && !controls.isEmpty()) {
         OnControl(OneOf(controls));
     } else if (choice < 84) {
         const QPoint at = PointIn(dialog);
-        Note("click in " + NameOf(dialog));
+        mDiary::Note("click in " + NameOf(dialog));
         hands_.Click(dialog, at, Chance(20) ? Qt::RightButton : Qt::LeftButton);
     } else if (choice < 94) {
         PressKey(dialog);
     } else if (choice < 97) {
         const QSize size(80 + Pick(1400), 60 + Pick(1100));
-        Note("resize " + NameOf(dialog));
+        mDiary::Note("resize " + NameOf(dialog));
         dialog->resize(size);
     } else {
-        Note("Escape in " + NameOf(dialog));
+        mDiary::Note("Escape in " + NameOf(dialog));
         hands_.Key(dialog, Qt::Key_Escape);
     }
 }
@@ -109,22 +106,19 @@ void Monkey::LeaveDialog(QWidget* dialog, int tries) {
     constexpr int Patience = 12;
     constexpr int Force = 30;
     constexpr int Stuck = 300;
-    QList<QAbstractButton*> buttons;
-    for (QAbstractButton* button : dialog->findChildren<QAbstractButton*>()) {
-        if (button->isVisible() && button->isEnabled() && button->window() == dialog) buttons << button;
-    }
+    const QList<QAbstractButton*> buttons = InReach<QAbstractButton>(dialog);
     if (tries < Patience && !buttons.isEmpty() && Chance(60)) {
         QAbstractButton* button = OneOf(buttons);
-        Note("press " + NameOf(button) + " \"" + button->text().toStdString() + '"');
+        mDiary::Note("press " + NameOf(button) + " \"" + button->text().toStdString() + '"');
         hands_.Click(button, button->rect().center());
     } else if (tries < Patience) {
-        Note("Escape in " + NameOf(dialog));
+        mDiary::Note("Escape in " + NameOf(dialog));
         hands_.Key(dialog, Qt::Key_Escape);
     } else if (tries < Force) {
-        Note("close " + NameOf(dialog));
+        mDiary::Note("close " + NameOf(dialog));
         dialog->close();
     } else if (tries < Stuck) {
-        Note("reject " + NameOf(dialog));
+        mDiary::Note("reject " + NameOf(dialog));
         if (auto* closing = qobject_cast<QDialog*>(dialog)) closing->reject();
     } else {
         mDiary::Fail(NameOf(dialog) + " cannot be closed");
@@ -135,13 +129,13 @@ void Monkey::LeaveDialog(QWidget* dialog, int tries) {
 void Monkey::OnFileDialog(QFileDialog* dialog) {
     auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     if (!name || Chance(40)) {
-        Note("cancel the file dialog");
+        mDiary::Note("cancel the file dialog");
         dialog->reject();
         return;
     }
     const QString file =
         Chance(10) ? QStringLiteral("no-such-folder/x.txt") : QStringLiteral("export%1.txt").arg(Pick(5));
-    Note("write to " + file.toStdString());
+    mDiary::Note("write to " + file.toStdString());
     name->setText(QDir::current().absoluteFilePath(file));
     hands_.Key(dialog, Qt::Key_Return);
 }
@@ -151,23 +145,23 @@ void Monkey::OnControl(QWidget* control) {
     if (auto* view = qobject_cast<QAbstractItemView*>(control)) {
         OnItemView(view);
     } else if (isText && Chance(80)) {
-        Note("click " + NameOf(control));
+        mDiary::Note("click " + NameOf(control));
         hands_.Click(control, PointIn(control));
         TypeText(control->window());
     } else if (auto* tabs = qobject_cast<QTabBar*>(control); tabs && tabs->count() > 0) {
         const int tab = Pick(tabs->count());
-        Note("tab " + std::to_string(tab) + " of " + NameOf(control));
+        mDiary::Note("tab " + std::to_string(tab) + " of " + NameOf(control));
         hands_.Click(tabs, tabs->tabRect(tab).center());
     } else if (qobject_cast<QComboBox*>(control) && Chance(40)) {
-        Note("turn the wheel over " + NameOf(control));
+        mDiary::Note("turn the wheel over " + NameOf(control));
         hands_.Wheel(control, control->rect().center(), Pick(9) - 4, Qt::NoModifier);
     } else if (qobject_cast<QAbstractSlider*>(control) && Chance(40)) {
-        Note("drag " + NameOf(control));
+        mDiary::Note("drag " + NameOf(control));
         hands_.Press(control, PointIn(control));
         if (hands_.Holding()) hands_.Release();
     } else {
         const QPoint at = PointIn(control);
-        Note("click " + NameOf(control));
+        mDiary::Note("click " + NameOf(control));
         if (Chance(10)) {
             hands_.DoubleClick(control, at);
         } else {
@@ -179,7 +173,7 @@ void Monkey::OnControl(QWidget* control) {
 void Monkey::OnItemView(QAbstractItemView* view) {
     const QAbstractItemModel* model = view->model();
     if (!model || model->rowCount(view->rootIndex()) == 0 || Chance(15)) {
-        Note("click " + NameOf(view));
+        mDiary::Note("click " + NameOf(view));
         hands_.Click(view->viewport(), PointIn(view->viewport()));
         return;
     }
@@ -190,10 +184,10 @@ void Monkey::OnItemView(QAbstractItemView* view) {
     view->scrollTo(index);
     const QPoint at = view->visualRect(index).center();
     if (Chance(35)) {
-        Note("double-click row " + std::to_string(index.row()) + " of " + NameOf(view));
+        mDiary::Note("double-click row " + std::to_string(index.row()) + " of " + NameOf(view));
         hands_.DoubleClick(view->viewport(), at);
     } else {
-        Note("click row " + std::to_string(index.row()) + " of " + NameOf(view));
+        mDiary::Note("click row " + std::to_string(index.row()) + " of " + NameOf(view));
         hands_.Click(view->viewport(), at);
     }
 }
@@ -208,29 +202,21 @@ void Monkey::PressKey(QWidget* window) {
     constexpr Qt::KeyboardModifier modifiers[] = {Qt::NoModifier, Qt::NoModifier, Qt::NoModifier,
                                                   Qt::ShiftModifier, Qt::ControlModifier};
     const Qt::KeyboardModifier modifier = modifiers[Pick(5)];
-    Note("press " + QKeySequence(key | modifier).toString().toStdString() + " in " + NameOf(window));
+    mDiary::Note("press " + QKeySequence(key | modifier).toString().toStdString() + " in " + NameOf(window));
     const QString text =
         key == Qt::Key_Space ? QStringLiteral(" ") : (key < 128 ? QString(QChar(key)) : QString());
     hands_.Key(window, key, modifier, modifier == Qt::ControlModifier ? QString() : text);
 }
 
 void Monkey::TypeText(QWidget* window) {
-    const QString texts[] = {QString::number(Pick(100000)),
-                             QStringLiteral("7"),
-                             QStringLiteral("0"),
-                             QStringLiteral("-12.5e300"),
-                             QStringLiteral("999999999999999999999"),
-                             QStringLiteral("Zoë"),
-                             QStringLiteral("Ann \"quoted\", comma"),
-                             QStringLiteral("../Player1"),
-                             QStringLiteral("игрок"),
-                             QStringLiteral("プレイヤー"),
-                             QStringLiteral("لاعب ١٢٣"),
-                             QStringLiteral("<b>%1 &Bold"),
-                             QString(300, QLatin1Char('x')),
-                             QStringLiteral("Player%1").arg(Pick(25))};
-    const QString text = texts[Pick(static_cast<int>(std::size(texts)))];
+    QStringList texts = QStringLiteral(
+                            "7|0|-12.5e300|999999999999999999999|Zoë|Ann \"quoted\", comma|../Player1|"
+                            "игрок|プレイヤー|لاعب ١٢٣|<b>%1 &Bold")
+                            .split(QLatin1Char('|'));
+    texts << QString::number(Pick(100000)) << QString(300, QLatin1Char('x'))
+          << QStringLiteral("Player%1").arg(Pick(25));
+    const QString text = OneOf(texts);
     if (Chance(50)) hands_.Key(window, Qt::Key_A, Qt::ControlModifier);
-    Note("type " + text.left(30).toStdString());
+    mDiary::Note("type " + text.left(30).toStdString());
     hands_.Type(window, text);
 }

@@ -4,7 +4,6 @@
 #include <QGraphicsItem>
 #include <QMenu>
 #include <QMenuBar>
-#include <QToolBar>
 #include <QToolButton>
 #include <QWidget>
 
@@ -14,7 +13,7 @@
 #include "shell/cData.h"
 #include "state/cArray.h"
 #include "state/cGames.h"
-#include "state/mGen.h"
+#include "support/RandomPlayer.h"
 #include "table/TableView.h"
 #include "table/cPlate.h"
 #include "table/frmMain.h"
@@ -27,12 +26,6 @@ constexpr int GripY = 90;
 
 QPoint OnView(const frmMain& window, int left, int top) {
     return window.Table()->mapFromScene(QPointF(left + GripX, top + GripY));
-}
-
-bool Accepts(int PicID, int above, int Cell, int Pile) {
-    const CardRecord& card = PicBack.PicCards(PicID);
-    if (Cell == Home) return mFunc::HomeAccepts(PicID, card.Cell, card.Pile, Pile);
-    return Cell == Res ? mFunc::ResAccepts(Pile, above) : mFunc::GoalAccepts(PicID, Pile, above);
 }
 
 }  // namespace
@@ -50,19 +43,19 @@ void Monkey::PlanDrag() {
         if (piles == 0) continue;
         const int Pile = Pick(piles);
         if (!Accepts(PicID, above, Cell, Pile)) continue;
-        const Point end = gGames->Position(Cell, Pile, Cell == Home ? gArray->GetTop(Home, Pile) : 0);
+        const Point end = DropPlace(Cell, Pile);
         QWidget* view = window_->Table()->viewport();
         const QPoint to = OnView(*window_, end.X, end.Y);
-        Note("press card " + std::to_string(PicID) + " for pile " + std::to_string(Cell) + '/' +
-             std::to_string(Pile));
-        plan_.push_back([this, view, to] {
-            Note("drag it there");
-            hands_.Move(view, to);
-        });
-        plan_.push_back([this] {
-            Note("drop it");
-            hands_.Release();
-        });
+        mDiary::Note("press card " + std::to_string(PicID) + " for pile " + std::to_string(Cell) + '/' +
+                     std::to_string(Pile));
+        plan_ = {[this, view, to] {
+                     mDiary::Note("drag it there");
+                     hands_.Move(view, to);
+                 },
+                 [this] {
+                     mDiary::Note("drop it");
+                     hands_.Release();
+                 }};
         hands_.Press(view, OnView(*window_, mFunc::CardLeft(PicID), mFunc::CardTop(PicID)));
         return;
     }
@@ -76,7 +69,7 @@ void Monkey::PressAnywhere() {
         const CardRecord& card = PicBack.PicCards(Pick(gGames->TotalCards()));
         at = OnView(*window_, card.Left, card.Top);
     }
-    Note("press the table at " + std::to_string(at.x()) + ", " + std::to_string(at.y()));
+    mDiary::Note("press the table at " + std::to_string(at.x()) + ", " + std::to_string(at.y()));
     constexpr Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
     hands_.Press(view, at, buttons[Pick(4)]);
 }
@@ -86,13 +79,13 @@ void Monkey::OnHeldButton() {
     const int choice = Pick(100);
     if (choice < 45) {
         const QPoint to = Chance(20) ? QPoint(Pick(4000) - 2000, Pick(4000) - 2000) : PointIn(view);
-        Note("move the held mouse to " + std::to_string(to.x()) + ", " + std::to_string(to.y()));
+        mDiary::Note("move the held mouse to " + std::to_string(to.x()) + ", " + std::to_string(to.y()));
         hands_.Move(view, to);
     } else if (choice < 92) {
-        Note("let go of the mouse");
+        mDiary::Note("let go of the mouse");
         hands_.Release();
     } else if (choice < 94) {
-        Note("another button at the same time");
+        mDiary::Note("another button at the same time");
         hands_.Press(view, PointIn(view), Qt::RightButton);
     } else if (choice < 98) {
         PressShortcut();
@@ -105,29 +98,27 @@ void Monkey::OnTable() {
     // Without a game there is little to do on the table.
     const bool running = gData->Figures.GameRunning;
     const int choice = running ? Pick(1000) : 600 + Pick(400);
+    QWidget* view = window_->Table()->viewport();
     if (choice < 400) {
         PlanDrag();
     } else if (choice < 570) {
         PressAnywhere();
     } else if (running && choice < 660 && gArray->GetTop(Stock) >= 0) {
         const CardRecord& card = PicBack.PicCards(gArray->GetTopPicID(Stock));
-        Note("click the stock");
-        hands_.Click(window_->Table()->viewport(), OnView(*window_, card.Left, card.Top));
+        mDiary::Note("click the stock");
+        hands_.Click(view, OnView(*window_, card.Left, card.Top));
     } else if (choice < 680) {
         const MarkRecord& mark = PicBack.Mark(MarkKind::Stock, 0);
-        Note("click the stock's mark");
-        hands_.Click(window_->Table()->viewport(), OnView(*window_, mark.Left, mark.Top));
+        mDiary::Note("click the stock's mark");
+        hands_.Click(view, OnView(*window_, mark.Left, mark.Top));
     } else if (choice < 710) {
-        QWidget* view = window_->Table()->viewport();
-        Note("double-click the table");
+        mDiary::Note("double-click the table");
         hands_.DoubleClick(view, PointIn(view));
     } else if (choice < 740) {
-        QWidget* view = window_->Table()->viewport();
-        Note("move the mouse over the table");
+        mDiary::Note("move the mouse over the table");
         hands_.Move(view, PointIn(view));
     } else if (choice < 770) {
-        QWidget* view = window_->Table()->viewport();
-        Note("turn the wheel");
+        mDiary::Note("turn the wheel");
         hands_.Wheel(view, PointIn(view), Pick(7) - 3, Chance(50) ? Qt::ControlModifier : Qt::NoModifier);
     } else if (choice < 840) {
         OpenMenu();
@@ -142,14 +133,14 @@ void Monkey::OnTable() {
     } else if (choice < 994) {
         // The commands' states, the clock and a replay go on by timers.
         pause_ = 100 + Pick(500);
-        Note("wait " + std::to_string(pause_) + " ms");
+        mDiary::Note("wait " + std::to_string(pause_) + " ms");
     } else if (choice < 997) {
         constexpr Moment Day = 86'400'000;
         const Moment leap = Day * (Pick(800) - 400);
-        Note("set the clock by " + std::to_string(leap / 1000) + " s");
+        mDiary::Note("set the clock by " + std::to_string(leap / 1000) + " s");
         calendar_->Advance(leap);
     } else {
-        Note("take the mouse away from the window");
+        mDiary::Note("take the mouse away from the window");
         hands_.Move(window_, QPoint(-100, -100));
         QApplication::setActiveWindow(nullptr);
     }
@@ -159,61 +150,44 @@ void Monkey::OpenMenu() {
     QMenuBar* bar = window_->menuBar();
     const QList<QAction*> menus = bar->actions();
     const QAction* menu = OneOf(menus);
-    Note("open the menu " + menu->text().toStdString());
+    mDiary::Note("open the menu " + menu->text().toStdString());
     hands_.Click(bar, bar->actionGeometry(const_cast<QAction*>(menu)).center());
 }
 
 void Monkey::PressShortcut() {
-    QList<QAction*> actions;
-    for (QAction* action : window_->findChildren<QAction*>()) {
-        if (!action->shortcut().isEmpty()) actions << action;
-    }
-    if (actions.isEmpty()) return;
-    const QAction* action = OneOf(actions);
-    const QKeyCombination keys = action->shortcut()[0];
-    Note("press " + action->shortcut().toString().toStdString());
-    hands_.Key(window_, keys.key(), keys.keyboardModifiers());
+    QList<QAction*> actions = window_->findChildren<QAction*>();
+    actions.removeIf([](const QAction* action) { return action->shortcut().isEmpty(); });
+    const QKeySequence shortcut = OneOf(actions)->shortcut();
+    mDiary::Note("press " + shortcut.toString().toStdString());
+    hands_.Key(window_, shortcut[0].key(), shortcut[0].keyboardModifiers());
 }
 
 void Monkey::PressToolButton() {
-    QList<QToolButton*> buttons;
-    for (QToolBar* bar : window_->findChildren<QToolBar*>()) {
-        for (QToolButton* button : bar->findChildren<QToolButton*>()) {
-            if (button->isVisible()) buttons << button;
-        }
-    }
+    QList<QToolButton*> buttons = window_->findChildren<QToolButton*>();
+    buttons.removeIf([](const QToolButton* button) { return !button->isVisible(); });
     if (buttons.isEmpty()) return PressShortcut();
     QToolButton* button = OneOf(buttons);
-    Note("press the tool button " + button->toolTip().toStdString());
+    mDiary::Note("press the tool button " + button->toolTip().toStdString());
     hands_.Click(button, button->rect().center());
 }
 
 void Monkey::ChangeWindow() {
     constexpr int Least = 100;
     constexpr int Range = 1800;
-    switch (Pick(6)) {
-        case 0:
-            Note("maximise the window");
-            window_->showMaximized();
-            break;
-        case 1:
-            Note("minimise the window");
-            window_->showMinimized();
-            break;
-        case 2:
-            Note("show the whole screen");
-            window_->showFullScreen();
-            break;
-        case 3:
-            Note("show the window as it was");
-            window_->showNormal();
-            break;
-        default:
-            window_->showNormal();
-            const QSize size(Least + Pick(Range), Least + Pick(Range));
-            Note("resize the window to " + std::to_string(size.width()) + " by " +
-                 std::to_string(size.height()));
-            window_->resize(size);
-            break;
+    constexpr std::pair<const char*, void (QWidget::*)()> ways[] = {
+        {"maximise", &QWidget::showMaximized},
+        {"minimise", &QWidget::showMinimized},
+        {"fill the screen with", &QWidget::showFullScreen},
+        {"restore", &QWidget::showNormal},
+    };
+    if (const int choice = Pick(6); choice < 4) {
+        mDiary::Note(std::string(ways[choice].first) + " the window");
+        (window_->*ways[choice].second)();
+        return;
     }
+    window_->showNormal();
+    const QSize size(Least + Pick(Range), Least + Pick(Range));
+    mDiary::Note("resize the window to " + std::to_string(size.width()) + " by " +
+                 std::to_string(size.height()));
+    window_->resize(size);
 }

@@ -13,6 +13,7 @@
 #include "state/cArray.h"
 #include "state/cTrans.h"
 #include "state/mLoad.h"
+#include "support/RandomPlayer.h"
 #include "table/cPlate.h"
 #include "table/mMain.h"
 
@@ -164,8 +165,8 @@ bool Drag(int PicID, int X, int Y) {
 }
 
 bool DragTo(int PicID, int Cell, int Pile) {
-    const int Pos = Cell == Home ? gArray->GetTop(Home, Pile) : 0;
-    return Drag(PicID, gGames->GetCordX(Cell, Pile, Pos), gGames->GetCordY(Cell, Pile, Pos));
+    const Point place = DropPlace(Cell, Pile);
+    return Drag(PicID, place.X, place.Y);
 }
 
 void Press(int PicID) {

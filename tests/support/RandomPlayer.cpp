@@ -15,23 +15,6 @@ namespace {
 constexpr double GripX = 400;
 constexpr double GripY = 300;
 
-// Where a drop on the pile looks for the card.
-Point DropPlace(int Cell, int Pile) {
-    return gGames->Position(Cell, Pile, Cell == Home ? gArray->GetTop(Home, Pile) : 0);
-}
-
-bool Accepts(int PicID, int above, int Cell, int Pile) {
-    const CardRecord& card = PicBack.PicCards(PicID);
-    switch (Cell) {
-        case Home:
-            return mFunc::HomeAccepts(PicID, card.Cell, card.Pile, Pile);
-        case Res:
-            return mFunc::ResAccepts(Pile, above);
-        default:
-            return mFunc::GoalAccepts(PicID, Pile, above);
-    }
-}
-
 // The cards that go with the lifted one.
 std::bitset<MaxCards> LiftedGroup(int PicID) {
     std::bitset<MaxCards> group;
@@ -43,6 +26,16 @@ std::bitset<MaxCards> LiftedGroup(int PicID) {
 }
 
 }  // namespace
+
+bool Accepts(int PicID, int above, int Cell, int Pile) {
+    const CardRecord& card = PicBack.PicCards(PicID);
+    if (Cell == Home) return mFunc::HomeAccepts(PicID, card.Cell, card.Pile, Pile);
+    return Cell == Res ? mFunc::ResAccepts(Pile, above) : mFunc::GoalAccepts(PicID, Pile, above);
+}
+
+Point DropPlace(int Cell, int Pile) {
+    return gGames->Position(Cell, Pile, Cell == Home ? gArray->GetTop(Home, Pile) : 0);
+}
 
 int RandomPlayer::AnyCard() { return Pick(gGames->TotalCards()); }
 
@@ -97,58 +90,44 @@ void RandomPlayer::Interrupt() {
     displaced_ |= LiftedGroup(PicID);
     mMain::MouseMove(PicID, GripX + Pick(3000), GripY + Pick(3000));
     if (gDrag.gPicked) mMain::MouseDown(AnyCard(), GripX, GripY);
-    switch (Pick(4)) {
-        case 0:
-            mMain::Undo(0);
-            break;
-        case 1:
-            mMain::Redo(0);
-            break;
-        case 2:
-            if (gArray->GetTop(Stock) < 0) mMain::StockClick();
-            break;
-        default:
-            break;
-    }
+    const int command = Pick(4);
+    if (command == 0) mMain::Undo(0);
+    if (command == 1) mMain::Redo(0);
+    if (command == 2 && gArray->GetTop(Stock) < 0) mMain::StockClick();
     mMain::CancelDrag();
     mMain::MouseUp(PicID);
 }
 
 void RandomPlayer::Act() {
     const int choice = Pick(100);
-    if (choice < 45) {
-        lastAction_ = "a drag that looked for a pile";
+    const auto act = [&](int below, const char* what) {
+        if (choice >= below) return false;
+        lastAction_ = what;
+        return true;
+    };
+    if (act(45, "a drag that looked for a pile")) {
         DragSensibly();
-    } else if (choice < 60) {
-        lastAction_ = "a drag anywhere";
+    } else if (act(60, "a drag anywhere")) {
         DragAnywhere();
-    } else if (choice < 75) {
-        lastAction_ = "a press on the stock";
+    } else if (act(75, "a press on the stock")) {
         if (gArray->GetTop(Stock) < 0) return;
         const int PicID = gArray->GetPicID(Stock, 0, Pick(gArray->GetTop(Stock) + 1));
         mMain::MouseDown(PicID, GripX, GripY);
         mMain::MouseUp(PicID);
-    } else if (choice < 79) {
-        lastAction_ = "a press";
+    } else if (act(79, "a press")) {
         const int PicID = AnyCard();
         Drag(PicID, mFunc::CardLeft(PicID), mFunc::CardTop(PicID));
-    } else if (choice < 83) {
-        lastAction_ = "a click on the stock's mark";
+    } else if (act(83, "a click on the stock's mark")) {
         if (gArray->GetTop(Stock) < 0) mMain::StockClick();
-    } else if (choice < 89) {
-        lastAction_ = "undo";
+    } else if (act(89, "undo")) {
         mMain::Undo(Pick(2));
-    } else if (choice < 94) {
-        lastAction_ = "redo";
+    } else if (act(94, "redo")) {
         mMain::Redo(Pick(2));
-    } else if (choice < 95 && Pick(10) == 0) {  // seldom: it leads back to the deal
-        lastAction_ = "undo all";
+    } else if (choice < 95 && Pick(10) == 0 && act(95, "undo all")) {  // seldom: it leads back to the deal
         mMain::UndoAll(0);
-    } else if (choice < 96) {
-        lastAction_ = "redo all";
+    } else if (act(96, "redo all")) {
         mMain::RedoAll(0);
-    } else if (choice < 98) {
-        lastAction_ = "autoplay flipped";
+    } else if (act(98, "autoplay flipped")) {
         mMain::FlipAutoplay();
     } else {
         lastAction_ = "a command during a drag";

@@ -6,7 +6,14 @@
 #include <cstdint>
 #include <random>
 
+#include "state/cGames.h"
 #include "table/cPlate.h"
+
+/// Whether a pile of the tableau, the reserve or the foundations takes a card that is lifted with `above`
+/// others.
+[[nodiscard]] bool Accepts(int PicID, int above, int Cell, int Pile);
+/// Where a drop on the pile looks for the card.
+[[nodiscard]] Point DropPlace(int Cell, int Pile);
 
 class RandomPlayer {
 public:
