@@ -36,15 +36,15 @@ TEST(RegionalDates, ReadWhatSuchAProgramWrote) {
     struct Row {
         const RegionalFormat& Format;
         const char* Text;
-        const char* Meaning;  // nullptr: no date
+        const char* Meaning = nullptr;  // none: no date
     };
     const Row rows[] = {
         {german, "2004-02-29 23:59:58", "2004-02-29 23:59:58"},
         {german, "2004-02-29", "2004-02-29 00:00:00"},
-        {german, "2003-02-29 23:59:58", nullptr},
-        {german, "2004-13-01 00:00:00", nullptr},
-        {german, "2004-12-01 24:00:00", nullptr},
-        {german, "2004-12-01 10:00", nullptr},
+        {german, "2003-02-29 23:59:58"},
+        {german, "2004-13-01 00:00:00"},
+        {german, "2004-12-01 24:00:00"},
+        {german, "2004-12-01 10:00"},
 
         {american, "1/5/2004 10:22:33 PM", "2004-01-05 22:22:33"},
         {american, "12/31/2004 12:00:01 AM", "2004-12-31 00:00:01"},
@@ -77,19 +77,19 @@ TEST(RegionalDates, ReadWhatSuchAProgramWrote) {
         {arabic, "٥/١/٢٠٠٤ ١٠:٢٢:٣٣ م", "2004-01-05 22:22:33"},
         {arabic, "5/1/2004 10:22:33 PM", "2004-01-05 22:22:33"},
 
-        {american, "", nullptr},
-        {american, "yesterday", nullptr},
-        {american, "13/5/2004 10:22:33 PM", nullptr},
-        {american, "2/30/2004 10:22:33 PM", nullptr},
-        {american, "1/5", nullptr},
-        {american, "1/5/200 10:22:33 PM", nullptr},
-        {american, "1/5/20040 10:22:33 PM", nullptr},
-        {american, "1/5/2004 10:22:33 PM x", nullptr},
-        {american, "1/5/2004 10", nullptr},
-        {american, "1/5/200410:22:33", nullptr},
-        {american, "1x5x2004 10:22:33", nullptr},
-        {german, "05.01.04 22:61:33", nullptr},
-        {named, "5 Foo 2004 22.22.33", nullptr},
+        {american, ""},
+        {american, "yesterday"},
+        {american, "13/5/2004 10:22:33 PM"},
+        {american, "2/30/2004 10:22:33 PM"},
+        {american, "1/5"},
+        {american, "1/5/200 10:22:33 PM"},
+        {american, "1/5/20040 10:22:33 PM"},
+        {american, "1/5/2004 10:22:33 PM x"},
+        {american, "1/5/2004 10"},
+        {american, "1/5/200410:22:33"},
+        {american, "1x5x2004 10:22:33"},
+        {german, "05.01.04 22:61:33"},
+        {named, "5 Foo 2004 22.22.33"},
     };
     for (const Row& row : rows) {
         const auto time = RegionalDates(row.Format).Read(row.Text);
@@ -101,27 +101,17 @@ TEST(RegionalDates, ReadWhatSuchAProgramWrote) {
 }
 
 TEST(RegionalDates, ShowDatesInTheWayOfTheRegion) {
-    struct Row {
-        const RegionalFormat& Format;
-        const char* ShortDate;
-        const char* Day;
-        const char* Month;
-    };
-    const Row rows[] = {
-        {american, "3/5/2004", "Mar 05", "Mar 04"},    {american2, "3/5/04", "Mar 05", "Mar 04"},
-        {british, "05/03/2004", "Mar 05", "Mar 04"},   {german, "05.03.04", "Mar 05", "Mar 04"},
-        {named, "5 Mar 2004", "Mar 05", "Mar 04"},     {hungarian, "2004. 03. 05.", "Mar 05", "Mar 04"},
-        {bulgarian, "5.03.04 г.", "Mar 05", "Mar 04"}, {arabic, "٥/٣/٢٠٠٤", "Mar ٠٥", "Mar ٠٤"},
-    };
     const CivilTime date{.Year = 2004, .Month = 3, .Day = 5};
-    for (const Row& row : rows) {
-        const RegionalDates dates(row.Format);
-        EXPECT_EQ(dates.ShortDate(date), row.ShortDate);
-        EXPECT_EQ(dates.Label(date, Interval::Day), row.Day);
-        EXPECT_EQ(dates.Label(date, Interval::Month), row.Month);
-    }
+    const std::pair<const RegionalFormat&, const char*> rows[] = {
+        {american, "3/5/2004"}, {american2, "3/5/04"},        {british, "05/03/2004"},   {german, "05.03.04"},
+        {named, "5 Mar 2004"},  {hungarian, "2004. 03. 05."}, {bulgarian, "5.03.04 г."}, {arabic, "٥/٣/٢٠٠٤"},
+    };
+    for (const auto& [format, text] : rows) EXPECT_EQ(RegionalDates(format).ShortDate(date), text);
     const RegionalDates dates(american);
+    EXPECT_EQ(dates.Label(date, Interval::Day), "Mar 05");
+    EXPECT_EQ(dates.Label(date, Interval::Month), "Mar 04");
     EXPECT_EQ(dates.Label(date, Interval::Year), "2004");
+    EXPECT_EQ(RegionalDates(arabic).Label(date, Interval::Day), "Mar ٠٥");
     EXPECT_EQ(dates.ShortDate(std::string("2004-12-31 23:59:59")), "12/31/2004");
     EXPECT_EQ(dates.ShortDate(std::string("some day")), "some day");
 }

@@ -33,27 +33,24 @@ ChartData Efforts(std::vector<std::vector<std::optional<int>>> rows) {
 
 TEST(Plot, EveryValueLeavesABarAndNoneHidesAnother) {
     constexpr double Visible = 0.005;
-    struct Row {
-        Kind Shape;
-        ChartData Data;
-    };
-    const Row rows[] = {
+    constexpr auto none = std::nullopt;
+    const std::pair<Kind, ChartData> rows[] = {
         {Kind::Result, {{"Won : 1", "Lost : 1000000"}, {{1, 1000000}}}},
         {Kind::Result, {{"Won : 0", "Lost : 0"}, {{0, 0}}}},
         {Kind::Effort, Efforts({{0, Largest, 1}})},
         {Kind::Effort, Efforts({{0, -7, Smallest}})},
         {Kind::Periods, {{"Played", "Won"}, {{0, 0}, {100000, 1}, {3, 2}}, {"a", "b", "c"}}},
-        {Kind::Strips, Efforts({{std::nullopt, std::nullopt, std::nullopt}})},
-        {Kind::Strips, Efforts({{std::nullopt, std::nullopt, std::nullopt}, {-52, 240, 1}, {520, 1, 4000}})},
+        {Kind::Strips, Efforts({{none, none, none}})},
+        {Kind::Strips, Efforts({{none, none, none}, {-52, 240, 1}, {520, 1, 4000}})},
         {Kind::Strips, Efforts({{-1, -1, -1}, {Largest, Largest, Largest}, {0, 0, 0}})},
         {Kind::Strips, Efforts({{Smallest, 0, Smallest}, {Largest, 0, -1}})},
         {Kind::Strips, Efforts({{-3, -2, -1}})},
     };
-    for (std::size_t i = 0; i < std::size(rows); ++i) {
-        SCOPED_TRACE(i);
-        const mPlot::Plot plot = mPlot::Make(rows[i].Shape, rows[i].Data);
+    for (const auto& [kind, data] : rows) {
+        SCOPED_TRACE(mPlot::Description(kind, data));
+        const mPlot::Plot plot = mPlot::Make(kind, data);
         std::size_t values = 0;
-        for (const auto& row : rows[i].Data.Rows) {
+        for (const auto& row : data.Rows) {
             for (const auto& value : row) values += value ? 1 : 0;
         }
         EXPECT_EQ(plot.Bars.size(), values);
