@@ -8,6 +8,8 @@ mkdir -p build
 
 # The compiler cache stays in the checkout: nothing is written to the user's home.
 export CCACHE_DIR=$root/build/ccache CCACHE_BASEDIR=$root CCACHE_MAXSIZE=2G
+# What it asks for to keep what was compiled with a precompiled header.
+export CCACHE_SLOPPINESS=pch_defines,time_macros
 
 say() { printf '== %s\n' "$*"; }
 
