@@ -46,9 +46,11 @@ QPixmap Cached(const QString& name, double scale) {
     return picture;
 }
 
-// Lets the painter draw in the pixels of its device.
+// Lets the painter draw in the pixels of its device. Without a detour over its own units, whose noise would
+// make a picture be scaled, by nothing but enough to shift it.
 void ToDevicePixels(QPainter& painter) {
-    painter.setWorldTransform(painter.deviceTransform().inverted() * painter.worldTransform());
+    painter.setWorldTransform({});
+    painter.setWorldTransform(painter.deviceTransform().inverted());
 }
 
 int Channel(int start, int end, int step) {
