@@ -185,10 +185,11 @@ FileError QtSettings::Write(File& file) const {
     return std::nullopt;
 }
 
-void QtSettings::SaveSetting(const std::string& application, const std::string& section,
-                             const std::string& key, const std::string& value) {
+void QtSettings::SaveSettings(const std::string& application, const std::vector<SettingValue>& values) {
     File& file = Open(application);
-    file.Unwritten[Path(section, key)] = QString::fromStdString(value);
+    for (const SettingValue& value : values) {
+        file.Unwritten[Path(value.Section, value.Key)] = QString::fromStdString(value.Value);
+    }
     const FileError fault = Write(file);
     if (!fault) {
         file.Reported = false;

@@ -24,8 +24,7 @@ public:
     [[nodiscard]] std::string GetSetting(const std::string& application, const std::string& section,
                                          const std::string& key,
                                          const std::string& defaultValue) const override;
-    void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
-                     const std::string& value) override;
+    void SaveSettings(const std::string& application, const std::vector<SettingValue>& values) override;
 
     /// The file of an application.
     [[nodiscard]] static std::string FileName(const std::string& application);

@@ -98,8 +98,12 @@ int cData::Get(const NumberSetting& setting) const {
     return value < setting.Low || value > setting.High ? setting.Default : value;
 }
 
-void cData::Set(const NumberSetting& setting, int value) {
-    layer_.Settings.SaveSetting(prodName_, setting.Section, setting.Key, std::to_string(value));
+void cData::Set(const std::vector<NumberValue>& values) {
+    std::vector<SettingValue> texts;
+    for (const auto& [setting, value] : values) {
+        texts.push_back({setting.Section, setting.Key, std::to_string(value)});
+    }
+    Save(texts);
 }
 
 std::string cData::LastGName() const {
@@ -111,7 +115,7 @@ std::string cData::LastGName() const {
 
 void cData::SetCurGName(const std::string& gName) {
     Figures.CurGName = gName;
-    layer_.Settings.SaveSetting(prodName_, DataSection, "LastGName", gName);
+    Save({{DataSection, "LastGName", gName}});
 }
 
 std::string cData::GetPlayer(int i) const {
@@ -125,25 +129,22 @@ int cData::TotalPlayers() const {
 }
 
 void cData::SetPlayer(int i, const std::string& PlayerName, bool CurPl) {
-    layer_.Settings.SaveSetting(prodName_, UsersSection, std::to_string(i), PlayerName);
-    if (CurPl) SetCurPlayer(PlayerName);
+    std::vector<SettingValue> values = {{UsersSection, std::to_string(i), PlayerName}};
+    if (CurPl) values.push_back({UsersSection, CurPlayerKey, PlayerName});
+    Save(values);
 }
 
 std::string cData::CurPlayer() const {
     return layer_.Settings.GetSetting(prodName_, UsersSection, CurPlayerKey, "");
 }
 
-void cData::SetCurPlayer(const std::string& PlayerName) {
-    layer_.Settings.SaveSetting(prodName_, UsersSection, CurPlayerKey, PlayerName);
-}
+void cData::SetCurPlayer(const std::string& PlayerName) { Save({{UsersSection, CurPlayerKey, PlayerName}}); }
 
 std::string cData::Renaming() const {
     return layer_.Settings.GetSetting(prodName_, UsersSection, RenamingKey, "");
 }
 
-void cData::SetRenaming(const std::string& names) {
-    layer_.Settings.SaveSetting(prodName_, UsersSection, RenamingKey, names);
-}
+void cData::SetRenaming(const std::string& names) { Save({{UsersSection, RenamingKey, names}}); }
 
 std::string cData::GetRecent(int i) const {
     return layer_.Settings.GetSetting(prodName_, RecentSection, std::to_string(i), "");
@@ -151,10 +152,11 @@ std::string cData::GetRecent(int i) const {
 
 void cData::SetRecent(const std::string& gName) {
     if (GetRecent(1) == gName) return;
-    for (int i = RecentSlots; i > 1; --i) {
-        layer_.Settings.SaveSetting(prodName_, RecentSection, std::to_string(i), GetRecent(i - 1));
+    std::vector<SettingValue> slots = {{RecentSection, "1", gName}};
+    for (int i = 2; i <= RecentSlots; ++i) {
+        slots.push_back({RecentSection, std::to_string(i), GetRecent(i - 1)});
     }
-    layer_.Settings.SaveSetting(prodName_, RecentSection, "1", gName);
+    Save(slots);
 }
 
 int cData::RecentCount() const {
@@ -164,9 +166,9 @@ int cData::RecentCount() const {
 }
 
 void cData::ClearRecent() {
-    for (int i = 1; i <= RecentSlots; ++i) {
-        layer_.Settings.SaveSetting(prodName_, RecentSection, std::to_string(i), "");
-    }
+    std::vector<SettingValue> slots;
+    for (int i = 1; i <= RecentSlots; ++i) slots.push_back({RecentSection, std::to_string(i), ""});
+    Save(slots);
 }
 
 void cData::PlaySound(std::string_view key) {

@@ -27,6 +27,11 @@ struct NumberSetting {
     const char* Section = "Data";
 };
 
+struct NumberValue {
+    NumberSetting Setting;
+    int Value;
+};
+
 // clang-format off
 namespace Setting {
 //                                        key               default  low       high
@@ -112,7 +117,9 @@ public:
 
     // Settings. Each read asks the store, each write is durable when it returns.
     [[nodiscard]] int Get(const NumberSetting& setting) const;
-    void Set(const NumberSetting& setting, int value);
+    void Set(const NumberSetting& setting, int value) { Set({{setting, value}}); }
+    /// All at once: a program that is killed leaves all of them or none.
+    void Set(const std::vector<NumberValue>& values);
     [[nodiscard]] std::string LastGName() const;
     [[nodiscard]] int TotalPlayers() const;
     /// Slots 1 to 20; empty for a free slot.
@@ -153,6 +160,7 @@ private:
         bool Original;
     };
     [[nodiscard]] const Game& GameAt(int SiD) const;
+    void Save(const std::vector<SettingValue>& values) { layer_.Settings.SaveSettings(prodName_, values); }
     [[nodiscard]] const Game* Find(const std::string& gName) const;
 
     WindowLayer layer_;

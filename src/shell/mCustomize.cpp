@@ -85,14 +85,15 @@ Choice Stored() {
 }
 
 void Confirm(const Choice& choice) {
-    for (std::size_t i = 0; i < Speeds.size(); ++i) gData->Set(Speeds[i].Setting, choice.Speed[i]);
+    std::vector<NumberValue> values = {{Setting::BGIndex, choice.Background},
+                                       {Setting::Fade, choice.Fade},
+                                       {Setting::CustomColor, choice.CustomColor},
+                                       {Setting::DeckIndex, choice.Deck}};
+    for (std::size_t i = 0; i < Speeds.size(); ++i) values.push_back({Speeds[i].Setting, choice.Speed[i]});
     for (std::size_t i = 0; i < Sounds.size(); ++i) {
-        gData->Set(Sounds[i].Setting, choice.Sound[i] ? SoundOn : SoundOff);
+        values.push_back({Sounds[i].Setting, choice.Sound[i] ? SoundOn : SoundOff});
     }
-    gData->Set(Setting::BGIndex, choice.Background);
-    gData->Set(Setting::Fade, choice.Fade);
-    gData->Set(Setting::CustomColor, choice.CustomColor);
-    gData->Set(Setting::DeckIndex, choice.Deck);
+    gData->Set(values);
     gData->Layer().Forms.PaintBackground();
     for (int PicID = 0; PicID < MaxCards; ++PicID) PicBack.SetDeckPic(PicID, choice.Deck);
 }

@@ -2,6 +2,7 @@
 #include "table/WindowState.h"
 
 #include <algorithm>
+#include <vector>
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -14,11 +15,6 @@
 namespace {
 
 constexpr int Pause = 500;  // milliseconds
-
-// Each write reaches the disk before the next one: what is the same is not written again.
-void Write(const NumberSetting& setting, int value) {
-    if (gData->Get(setting) != value) gData->Set(setting, value);
-}
 
 // The room on each screen. How much the frame takes of it is not known before the window is shown.
 QList<QRect> Screens() {
@@ -83,18 +79,19 @@ void WindowState::Save() {
     pause_.stop();
     if (!gData || !window_->isVisible()) return;
     const Qt::WindowStates state = window_->windowState();
+    std::vector<NumberValue> values = {{Setting::Zoom, zoom_->Percent()},
+                                       {Setting::FitGame, zoom_->Fits() ? 1 : 0}};
     // A window over the full screen does not tell what it goes back to; that was written before.
     if (!(state & (Qt::WindowFullScreen | Qt::WindowMinimized))) {
-        Write(Setting::WindowMaximised, state.testFlag(Qt::WindowMaximized) ? 1 : 0);
+        values.push_back({Setting::WindowMaximised, state.testFlag(Qt::WindowMaximized) ? 1 : 0});
     }
     if (!(state & (Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized))) {
-        Write(Setting::WindowLeft, window_->x());
-        Write(Setting::WindowTop, window_->y());
-        Write(Setting::WindowWidth, window_->width());
-        Write(Setting::WindowHeight, window_->height());
+        values.push_back({Setting::WindowLeft, window_->x()});
+        values.push_back({Setting::WindowTop, window_->y()});
+        values.push_back({Setting::WindowWidth, window_->width()});
+        values.push_back({Setting::WindowHeight, window_->height()});
     }
-    Write(Setting::Zoom, zoom_->Percent());
-    Write(Setting::FitGame, zoom_->Fits() ? 1 : 0);
+    gData->Set(values);
 }
 
 bool WindowState::eventFilter(QObject* watched, QEvent* event) {

@@ -14,9 +14,8 @@ std::string MemorySettings::GetSetting(const std::string&, const std::string& se
     return found == Values.end() ? defaultValue : found->second;
 }
 
-void MemorySettings::SaveSetting(const std::string&, const std::string& section, const std::string& key,
-                                 const std::string& value) {
-    Values[section + "/" + key] = value;
+void MemorySettings::SaveSettings(const std::string&, const std::vector<SettingValue>& values) {
+    for (const SettingValue& value : values) Values[value.Section + "/" + value.Key] = value.Value;
 }
 
 bool MemoryFiles::Exists(const std::string& path) const { return Contents.contains(path); }

@@ -35,8 +35,7 @@ public:
     [[nodiscard]] std::string GetSetting(const std::string& application, const std::string& section,
                                          const std::string& key,
                                          const std::string& defaultValue) const override;
-    void SaveSetting(const std::string& application, const std::string& section, const std::string& key,
-                     const std::string& value) override;
+    void SaveSettings(const std::string& application, const std::vector<SettingValue>& values) override;
 
     /// By "section/key"; the application is always the one program.
     std::map<std::string, std::string, std::less<>> Values;

@@ -29,6 +29,13 @@ public:
     virtual void LetEventsRun() = 0;
 };
 
+/// A text value under a section and a key.
+struct SettingValue {
+    std::string Section;
+    std::string Key;
+    std::string Value;
+};
+
 /// Text values under an application, a section and a key.
 class SettingsStore {
 public:
@@ -36,9 +43,8 @@ public:
     [[nodiscard]] virtual std::string GetSetting(const std::string& application, const std::string& section,
                                                  const std::string& key,
                                                  const std::string& defaultValue) const = 0;
-    /// Returns when the value is on disk.
-    virtual void SaveSetting(const std::string& application, const std::string& section,
-                             const std::string& key, const std::string& value) = 0;
+    /// Returns when the values are on disk, where they arrive all at once.
+    virtual void SaveSettings(const std::string& application, const std::vector<SettingValue>& values) = 0;
 };
 
 /// What a file operation answers: nothing when it was done, else the cause as a text for the user.

@@ -3,7 +3,9 @@
 #include <csignal>
 #include <fstream>
 #include <iterator>
+#include <set>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -244,7 +246,7 @@ protected:
         return store.GetSetting(application_, "Data", key, "default");
     }
     void Save(QtSettings& store, const std::string& key, const std::string& value) const {
-        store.SaveSetting(application_, "Data", key, value);
+        store.SaveSettings(application_, {{"Data", key, value}});
     }
     [[nodiscard]] std::string FileName() const { return QtSettings::FileName(application_); }
     [[nodiscard]] std::string Folder() const { return FileName().substr(0, FileName().rfind('/')); }
@@ -289,10 +291,24 @@ TEST_F(Settings, EveryTextComesBackFromTheDisk) {
 }
 
 TEST_F(Settings, SectionsAndKeysStandInTheFileByTheirNames) {
-    settings_.SaveSetting(application_, "Users", "100", "Player1");
-    settings_.SaveSetting(application_, "Recent", "1", "Klondike");
+    settings_.SaveSettings(application_, {{"Users", "100", "Player1"}, {"Recent", "1", "Klondike"}});
     EXPECT_EQ(Content(FileName()), "[Recent]\n1=Klondike\n\n[Users]\n100=Player1\n");
     EXPECT_THAT(FileName(), testing::EndsWith("/Kelmor/" + application_ + ".conf"));
+}
+
+TEST_F(Settings, ValuesSavedTogetherArriveTogether) {
+    Save(settings_, "a", "1");
+    std::set<std::string> seen;
+    std::jthread watch([&](const std::stop_token& stop) {
+        while (!stop.stop_requested()) seen.insert(Content(FileName()));
+    });
+    settings_.SaveSettings(application_, {{"Data", "a", "2"}, {"Data", "b", "3"}, {"Users", "1", "Player1"}});
+    watch = {};
+    const std::string after = "[Data]\na=2\nb=3\n\n[Users]\n1=Player1\n";
+    EXPECT_EQ(Content(FileName()), after);
+    seen.erase("[Data]\na=1\n");
+    seen.erase(after);
+    EXPECT_THAT(seen, IsEmpty());
 }
 
 TEST_F(Settings, TextTypedIntoTheFileByHandIsRead) {
