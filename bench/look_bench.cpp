@@ -2,7 +2,6 @@
 // on a screen (or a virtual one); it prints figures and their limits and fails when one is missed by more
 // than a quarter.
 #include <algorithm>
-#include <cstdio>
 #include <memory>
 
 #include <QApplication>
@@ -10,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "mFigures.h"
 #include "shell/QtSettings.h"
 #include "shell/mAssets.h"
 #include "shell/mCustomize.h"
@@ -22,12 +22,8 @@
 
 namespace {
 
-bool missed = false;
-
-void Print(const char* what, double value, double limit) {
-    constexpr double Leeway = 1.25;
-    std::printf("%-60s %9.3f ms (limit %g)\n", what, value, limit);
-    missed = missed || value > limit * Leeway;
+void Print(const char* what, double milliseconds, double limit) {
+    mFigures::Print(what, milliseconds, "ms", limit);
 }
 
 template <typename Work>
@@ -112,5 +108,5 @@ int main(int argc, char** argv) {
     (void)QTest::qWaitForWindowExposed(window.get());
     MeasureChanges(*window->Table());
     mLoad::UnloadMain();
-    return missed ? 1 : 0;
+    return mFigures::ExitCode();
 }

@@ -14,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "mFigures.h"
 #include "rules/mFunc.h"
 #include "shell/cData.h"
 #include "shell/mTablePicture.h"
@@ -27,14 +28,6 @@
 #include "table/memorylayer.h"
 
 namespace {
-
-bool missed = false;
-
-void Print(const char* what, double value, double limit, const char* unit) {
-    constexpr double Leeway = 1.25;
-    std::printf("%-52s %9.3f %s (limit %g)\n", what, value, unit, limit);
-    missed = missed || value > limit * Leeway;
-}
 
 double ProcessorMs() {
     timespec used{};
@@ -57,7 +50,9 @@ void MeasureDrag(TableView& table, double zoom) {
         }
     }
     QWidget* viewport = table.viewport();
-    const QPoint grip = table.mapFromScene(QPointF(mFunc::CardLeft(card) + 150, mFunc::CardTop(card) + 90));
+    const QPointF index(mFunc::CardLeft(card) + 150, mFunc::CardTop(card) + 90);
+    table.centerOn(index);  // a large table is seen in part
+    const QPoint grip = table.mapFromScene(index);
     QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, grip);
     constexpr int Steps = 1000;
     const double before = ProcessorMs();
@@ -72,7 +67,7 @@ void MeasureDrag(TableView& table, double zoom) {
     QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, grip);
     const std::string what =
         "a drag step of seven cards at " + std::to_string(std::lround(zoom * 100)) + " %";
-    Print((what + ", processor time").c_str(), step, 2.0, "ms");
+    mFigures::Print((what + ", processor time").c_str(), step, "ms", 2.0);
     table.SetZoom(1.0);
 }
 
@@ -90,7 +85,7 @@ void MeasureZoom(TableView& table) {
     double percent = mZoom::Smallest;
     for (; percent < mZoom::Largest; percent = mZoom::Larger(percent)) show(percent);
     for (; percent > mZoom::Smallest; percent = mZoom::Smaller(percent)) show(percent);
-    Print("the longest step of the zoom, pictures rendered", longest, 250.0, "ms");
+    mFigures::Print("the longest step of the zoom, pictures rendered", longest, "ms", 250.0);
     show(mZoom::ActualSize);
 }
 
@@ -101,7 +96,7 @@ void MeasureDeal(const TableView& table) {
     timer.start();
     mGen::StartGame("Mandate", 1.0);
     const double beyond = static_cast<double>(timer.nsecsElapsed()) / 1e6 - Cards * period;
-    Print("a deal of 104 cards, time beyond 104 refreshes", beyond, 100.0, "ms");
+    mFigures::Print("a deal of 104 cards, time beyond 104 refreshes", beyond, "ms", 100.0);
 }
 
 // As the selection dialog shows them, one after the other; the first has the pictures rendered.
@@ -113,7 +108,7 @@ void MeasurePreviews() {
         (void)mTablePicture::Preview(gData->GetGame(SiD), size, 1.0);
         longest = std::max(longest, ProcessorMs() - before);
     }
-    Print("the longest preview of all games, processor time", longest, 30.0, "ms");
+    mFigures::Print("the longest preview of all games, processor time", longest, "ms", 30.0);
 }
 
 void MeasureIdle() {
@@ -123,8 +118,8 @@ void MeasureIdle() {
     // The program's own loop: a test's waiting would poll and cost more than what is measured.
     QTimer::singleShot(Seconds * 1000, qApp, &QApplication::quit);
     QApplication::exec();
-    Print("an idle window with a game, share of one core", (ProcessorMs() - before) / (Seconds * 10.0), 0.5,
-          "%");
+    mFigures::Print("an idle window with a game, share of one core",
+                    (ProcessorMs() - before) / (Seconds * 10.0), "%", 0.5);
 }
 
 }  // namespace
@@ -146,5 +141,5 @@ int main(int argc, char** argv) {
     MeasurePreviews();
     MeasureIdle();
     mLoad::UnloadMain();
-    return missed ? 1 : 0;
+    return mFigures::ExitCode();
 }
