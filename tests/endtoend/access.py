@@ -5,16 +5,14 @@
 The moves are commands of the text driver, which plays the same deal and says which cards lie where.
 """
 
-import os
-import subprocess
 import sys
-import time
+from contextlib import closing
 
 from gi.repository import GLib
 
-from play import Driver, expect, make
+from play import Driver, deal, expect, make
 from reader import Bus, Reader, all_below, children, named, wait
-from window import Failure, Game, Screen, wait_for
+from window import Failure, Game, run
 
 RANKS = "Ace Two Three Four Five Six Seven Eight Nine Ten Jack Queen King".split()
 SUITS = "Hearts Spades Diamonds Clubs".split()
@@ -151,9 +149,7 @@ def play_and_read(reader, game, program, driver, moves):
     game.keys("F2")
     wait("a new game", lambda: len(mirror.heard()) == PILES)
     expect("the new game, followed and read anew", mirror.heard(), read_table(mirror.table))
-    game.keys("alt+F4")
-    expect("the exit code", wait_for("the program's end", lambda: game.process.poll() is not None)
-           and game.process.returncode, 0)
+    game.leave()
 
 
 def window_in_front(reader, program):
@@ -256,68 +252,30 @@ def read_dialogs(reader, game, program):
     return seen
 
 
-def run(screen, program_file, lab, moves_file):
+def listen(screen, program_file, lab, moves_file):
     with open(moves_file, encoding="utf-8") as file:
         moves = [line.strip() for line in file if line.strip()]
-    reader = Reader()  # it listens before the program begins
-    game = Game(screen, program_file)
-    driver = Driver(lab)
-    try:
-        program = wait("the program on the accessibility bus", lambda: reader.program("Tarnival"))
-        splash = wait("the splash", lambda: window_in_front(reader, program))
-        check_window(reader, splash)
-        game.keys("space")
-        wait_for("the selection over the table", lambda: len(screen.windows("Tarnival")) >= 2)
-        time.sleep(0.5)
-        game.type("Klondike")
-        game.keys("Return")
-        wait_for("a game of Klondike", lambda: screen.windows(r"\[Klondike\]"))
-        time.sleep(1.5)
-        read = read_dialogs(reader, game, program)
-        print("access.py: read and closed " + ", ".join(read))
-        if len(read) < 10:
-            raise Failure("too few dialogs opened")
-        toolbar = named(program, "Toolbar", "tool bar")
-        entry = named(program, "View Toolbar")
-        show_menu(reader, game, entry.get_parent().get_parent(), entry)
-        game.screen.xdotool("mousemove", *reader.middle(entry), "click", 1)
-        wait("no toolbar", lambda: "showing" not in reader.states(toolbar))
-        game.keys("ctrl+F12")
-        time.sleep(0.5)
-        number = moves[0].split()[-1]
-        game.type(number)
-        game.keys("Return")
-        title = rf"\[Klondike\] \[Player1\] \[{number}\]"
-        wait_for("the deal of that number", lambda: screen.windows(title))
-        time.sleep(1.5)
-        game.find_plate(title)
-        play_and_read(reader, game, program, driver, moves)
-    except Failure:
-        # What stood on the screen tells most about a failure.
-        subprocess.run(["sh", "-c", "command -v import >/dev/null && import -window root failure.png"],
-                       env=screen.environment, check=False)
-        raise
-    finally:
-        game.close()
-        driver.close()
-
-
-def main():
-    screen = Screen()
-    bus = Bus(screen)
-    try:
-        run(screen, *sys.argv[1:])
-    except Failure as failure:
-        print(f"access.py: {failure}", file=sys.stderr)
-        return 1
-    finally:
-        try:
-            bus.close()
-        finally:
-            screen.close()
-    print("access.py: the table was read before and after moves")
-    return 0
+    with closing(Bus(screen)):
+        reader = Reader()  # it listens before the program begins
+        with Game(screen, program_file) as game, closing(Driver(lab)) as driver:
+            program = wait("the program on the accessibility bus", lambda: reader.program("Tarnival"))
+            splash = wait("the splash", lambda: window_in_front(reader, program))
+            check_window(reader, splash)
+            game.choose("Klondike")
+            screen.settle()
+            read = read_dialogs(reader, game, program)
+            print("access.py: read and closed " + ", ".join(read))
+            if len(read) < 10:
+                raise Failure("too few dialogs opened")
+            toolbar = named(program, "Toolbar", "tool bar")
+            entry = named(program, "View Toolbar")
+            show_menu(reader, game, entry.get_parent().get_parent(), entry)
+            game.screen.xdotool("mousemove", *reader.middle(entry), "click", 1)
+            wait("no toolbar", lambda: "showing" not in reader.states(toolbar))
+            deal(game, moves[0].split()[-1])
+            play_and_read(reader, game, program, driver, moves)
+    return "the table was read before and after moves"
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    run(listen, *sys.argv[1:])

@@ -12,7 +12,7 @@ import random
 import sys
 import time
 
-from window import Failure, Game, Screen, wait_for
+from window import Failure, Game, run
 
 GAMES = ["Klondike", "Spider", "Freecell", "Canfield", "Yukon", "Fan"]
 KEYS = ["F2", "ctrl+F2", "F12", "ctrl+z", "ctrl+x", "ctrl+c", "ctrl+v", "shift+F1", "shift+F2", "F7"]
@@ -28,52 +28,35 @@ def score_file():
 
 def play_and_kill(screen, program, seed):
     chance = random.Random(seed)
-    game = Game(screen, program)
-    try:
-        wait_for("the splash", lambda: screen.windows("Tarnival"))
-        game.keys("space")
-        wait_for("the selection over the table", lambda: len(screen.windows("Tarnival")) >= 2)
-        game.type(chance.choice(GAMES))
-        game.keys("Return")
-        wait_for("a game", lambda: screen.windows(r"Tarnival .*\["))
+    with Game(screen, program) as game:
+        game.choose(chance.choice(GAMES))
         end = time.monotonic() + chance.uniform(0, 3)
         while time.monotonic() < end:
             if chance.random() < 0.6:
                 screen.xdotool("key", "--clearmodifiers", chance.choice(KEYS))
                 continue
-            start, end_of_drag = ((chance.randrange(300, 1000), chance.randrange(250, 650)) for _ in range(2))
+            # On the table and the toolbar: the menus above them hold the program's own end.
+            start, end_of_drag = ((chance.randrange(300, 1000), chance.randrange(275, 650)) for _ in range(2))
             screen.xdotool("mousemove", *start, "mousedown", 1, "mousemove", *end_of_drag, "mouseup", 1)
         if game.process.poll() is not None:
             raise Failure(f"the program ended by itself with {game.process.returncode}")
-    finally:
-        game.close()
 
 
-def main():
-    program, runs = sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else 2
-    screen = Screen()
+def kill_often(screen, program, runs):
     seed = random.randrange(1 << 30)
-    try:
-        for run in range(runs):
-            before = score_file()
-            try:
-                play_and_kill(screen, program, seed + run)
-            except Failure as failure:
-                raise Failure(f"run {run + 1}, seed {seed + run}: {failure}") from failure
+    for run_number in range(1, runs + 1):
+        before = score_file()
+        try:
+            play_and_kill(screen, program, seed + run_number)
             after = score_file()
             if not after.startswith(before):
-                raise Failure(f"run {run + 1}: records are gone")
+                raise Failure("records are gone")
             if any(line.count(b",") != 6 for line in after.splitlines()) or after and not after.endswith(b"\r\n"):
-                raise Failure(f"run {run + 1}: a line is torn: {after[-200:]!r}")
-    except Failure as failure:
-        print(f"kills.py: {failure}", file=sys.stderr)
-        return 1
-    finally:
-        screen.close()
-    records = len(score_file().splitlines())
-    print(f"kills.py: {runs} starts and kills, {records} records, all whole")
-    return 0
+                raise Failure(f"a line is torn: {after[-200:]!r}")
+        except Failure as failure:
+            raise Failure(f"run {run_number}, seed {seed + run_number}: {failure}") from failure
+    return f"{runs} starts and kills, {len(score_file().splitlines())} records, all whole"
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    run(kill_often, sys.argv[1], int(sys.argv[2]) if len(sys.argv) > 2 else 2)

@@ -11,9 +11,9 @@ import json
 import os
 import subprocess
 import sys
-import time
+from contextlib import closing
 
-from window import Failure, Game, Screen, wait_for
+from window import Failure, Game, run, wait_for
 
 GRIP = (150, 90)  # where in a card it is gripped, twips: its index, which a fan leaves free
 
@@ -58,7 +58,7 @@ def make(game, driver, state, command):
         else:
             game.drag(grip, (int(rest[1]) + GRIP[0], int(rest[2]) + GRIP[1]))
     after = driver.do(command)
-    time.sleep(0.06 + 0.04 * abs(after["trans"] - state["trans"]))
+    game.screen.settle(0.1 if after["trans"] == state["trans"] else 0.15)
     return after
 
 
@@ -75,74 +75,46 @@ def expect(what, seen, wanted):
         raise Failure(f"{what}: {seen!r} instead of {wanted!r}")
 
 
-def run(screen, program, lab, moves):
-    data = os.environ["XDG_DATA_HOME"]
-    game = Game(screen, program)
-    driver = Driver(lab)
-    try:
-        wait_for("the splash", lambda: screen.windows("Tarnival"))
-        time.sleep(0.5)
-        game.keys("space")
-        wait_for("the selection over the table", lambda: len(screen.windows("Tarnival")) >= 2)
-        time.sleep(0.5)
-        game.type("Klondike")
-        game.keys("Return")
-        wait_for("a game of Klondike", lambda: screen.windows(r"\[Klondike\]"))
-        time.sleep(1.5)
-        game.keys("alt+g", "Up", "Return")  # the last entry of the menu hides the toolbar
+def deal(game, number):
+    """Deals the game that runs by a number, and finds its table on the screen."""
+    game.keys("ctrl+F12")
+    game.type(number)
+    game.keys("Return")
+    title = rf"\[Klondike\] \[Player1\] \[{number}\]"
+    wait_for("the deal of that number", lambda: game.screen.windows(title))
+    game.screen.settle()
+    game.find_plate(title)
+    return title
 
-        commands = [line.strip() for line in open(moves, encoding="utf-8") if line.strip()]
-        number = commands[0].split()[-1]
-        game.keys("ctrl+F12")
-        time.sleep(0.5)
-        game.type(number)
-        game.keys("Return")
-        title = rf"\[Klondike\] \[Player1\] \[{number}\]"
-        wait_for("the deal of that number", lambda: screen.windows(title))
-        time.sleep(1.5)
+
+def play(screen, program, lab, moves):
+    data = os.environ["XDG_DATA_HOME"]
+    with open(moves, encoding="utf-8") as file:
+        commands = [line.strip() for line in file if line.strip()]
+    number = commands[0].split()[-1]
+    with Game(screen, program) as game, closing(Driver(lab)) as driver:
+        game.choose("Klondike")
+        screen.settle()
+        game.keys("alt+g", "Up", "Return")  # the last entry of the menu hides the toolbar
+        title = deal(game, number)
         expect("the abandoned game", [row[-1] for row in records(data)], ["0"])
-        game.find_plate(title)
 
         state = driver.do(commands[0])
         for command in commands[1:]:
             state = make(game, driver, state, command)
         expect("the driver's own win", state["finished"], 1)
-        wait_for("the end-of-game dialog", lambda: screen.windows("Congrats"))
+        wait_for("the end-of-game dialog", lambda: screen.in_front("Congrats"))
         won = records(data)[-1]
         expect("the record's game, number and result", [won[1], won[2], won[6]], ["Klondike", number, "1"])
-        time.sleep(0.3)
         game.keys("Escape")
 
         game.keys("F2")
         wait_for("another game", lambda: not screen.windows(title))
-        time.sleep(1.5)
-        game.keys("alt+F4")
-        expect("the program's exit code", wait_for("its end", lambda: game.process.poll() is not None)
-               and game.process.returncode, 0)
+        screen.settle()
+        game.leave()
         expect("all results", [row[-1] for row in records(data)], ["0", "1", "0"])
-    except Failure:
-        # What stood on the screen tells most about a failure.
-        subprocess.run(["sh", "-c", "command -v import >/dev/null && import -window root failure.png"],
-                       env=screen.environment, check=False)
-        raise
-    finally:
-        game.close()
-        driver.close()
-
-
-def main():
-    program, lab, moves = sys.argv[1:]
-    screen = Screen()
-    try:
-        run(screen, program, lab, moves)
-    except Failure as failure:
-        print(f"play.py: {failure}", file=sys.stderr)
-        return 1
-    finally:
-        screen.close()
-    print("play.py: a game was chosen, abandoned, dealt by number, won, and recorded")
-    return 0
+    return "a game was chosen, abandoned, dealt by number, won, and recorded"
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    run(play, *sys.argv[1:])
