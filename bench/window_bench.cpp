@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <ctime>
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 #include <QApplication>
@@ -35,24 +36,24 @@ double ProcessorMs() {
     return static_cast<double>(used.tv_sec) * 1000.0 + static_cast<double>(used.tv_nsec) / 1e6;
 }
 
-// The longest group of the table in the hand, moved to and fro.
+// The longest group of the table that is in sight in the hand, moved to and fro.
 void MeasureDrag(TableView& table, double zoom) {
     table.SetZoom(zoom);
     mGen::StartGame("Simple Klondike", 1.0);
-    int card = -1;
+    QWidget* viewport = table.viewport();
+    QPoint grip;
     int most = -1;
     for (int pile = 0; pile < gGames->Piles(Home); ++pile) {
-        int above = 0;
         if (gArray->GetTop(Home, pile) < 0) continue;
-        if (mFunc::CanLift(gArray->GetPicID(Home, pile, 0), above) && above > most) {
-            most = above;
-            card = gArray->GetPicID(Home, pile, 0);
-        }
+        const int card = gArray->GetPicID(Home, pile, 0);
+        const QPoint index =
+            table.mapFromScene(QPointF(mFunc::CardLeft(card) + 150, mFunc::CardTop(card) + 90));
+        int above = 0;
+        if (!viewport->rect().contains(index) || !mFunc::CanLift(card, above) || above <= most) continue;
+        most = above;
+        grip = index;
     }
-    QWidget* viewport = table.viewport();
-    const QPointF index(mFunc::CardLeft(card) + 150, mFunc::CardTop(card) + 90);
-    table.centerOn(index);  // a large table is seen in part
-    const QPoint grip = table.mapFromScene(index);
+    if (most < 0) throw std::runtime_error("no card of the table is in sight");
     QTest::mousePress(viewport, Qt::LeftButton, Qt::NoModifier, grip);
     constexpr int Steps = 1000;
     const double before = ProcessorMs();
@@ -65,8 +66,8 @@ void MeasureDrag(TableView& table, double zoom) {
     }
     const double step = (ProcessorMs() - before) / Steps;
     QTest::mouseRelease(viewport, Qt::LeftButton, Qt::NoModifier, grip);
-    const std::string what =
-        "a drag step of seven cards at " + std::to_string(std::lround(zoom * 100)) + " %";
+    const std::string what = "a drag step of " + std::to_string(most + 1) + " cards at " +
+                             std::to_string(std::lround(zoom * 100)) + " %";
     mFigures::Print((what + ", processor time").c_str(), step, "ms", 2.0);
     table.SetZoom(1.0);
 }

@@ -150,36 +150,6 @@ TEST_F(LabTest, DragMovesExactlyAndPressPicks) {
     EXPECT_EQ(Ask("history")["history"][0][4], "undone");
 }
 
-// A random spread draws once a card, and the places of its cards follow from the draws.
-TEST_F(LabTest, DrawsAreWhatTheDealDrew) {
-    for (const char* game : {"Klondike", "Penguin"}) EXPECT_TRUE(Ask(Start(game, "7"))["draws"].empty());
-    Ask("autoplay");
-    const std::string answer = lab_.Answer(Start("Mobile Gallery", "7"));
-    EXPECT_THAT(answer, testing::MatchesRegex(".*\"draws\":\\[(0\\.0*[1-9][0-9]{0,8}[],])+}"))
-        << "nine digits";
-    const Json state = Json::parse(answer);
-    EXPECT_EQ(state["draws"].size(), 52U);
-    const std::size_t piles = state["cells"][0].size();
-    std::vector<std::size_t> expected(piles);
-    for (const Json& draw : state["draws"]) {
-        const double place = draw.get<double>() * static_cast<double>(piles - 1);
-        ++expected.at(static_cast<std::size_t>(std::nearbyint(place)));
-    }
-    for (std::size_t pile = 0; pile < piles; ++pile)
-        EXPECT_EQ(state["cells"][0][pile].size(), expected[pile]);
-}
-
-TEST_F(LabTest, NumbersKeepTheirKind) {
-    EXPECT_EQ(Ask(Start("Klondike", "999999999999999"))["number"].dump(), "999999999999999");
-    EXPECT_EQ(Ask(Start("Klondike", "\"012\""))["number"].dump(), "\"012\"");
-    EXPECT_EQ(Ask(Start("Klondike", "12.5"))["number"].dump(), "12.5");
-    const Json session = Ask("close")["session"];
-    EXPECT_EQ(session[0]["number"].dump(), "999999999999999");
-    EXPECT_EQ(session[1]["number"].dump(), "\"012\"");
-    EXPECT_EQ(session[1]["player"], "Player1");
-    EXPECT_EQ(Ask(Start("Klondike", "\"12\""))["cells"], Ask(Start("Klondike", "12"))["cells"]);
-}
-
 // The program answers line by line on a pipe, skips blank lines and ends well with its input.
 TEST(LabProgram, SpeaksOnItsPipe) {
     const std::string answers = testing::TempDir() + "tarnival-lab-" + std::to_string(getpid()) + ".txt";

@@ -34,6 +34,14 @@ void FoldPosition(Hash& hash) {
             hash.Fold(value);
         }
     }
+    for (const MarkKind kind :
+         {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste, MarkKind::Stock}) {
+        for (int i = 0; i < cPlate::MarkCount(kind); ++i) {
+            const MarkRecord& mark = PicBack.Mark(kind, i);
+            for (const int value : {mark.Visible ? 1 : 0, mark.Left, mark.Top, mark.Picture})
+                hash.Fold(value);
+        }
+    }
 }
 
 // A card and where to; a press on the stock or a click on its mark have no card.
@@ -92,7 +100,7 @@ TEST(Signature, OfAllGames) {
         moves += gTrans->GetTransID();
     }
     EXPECT_GT(moves, gData->TotalGames() * 20) << "the player hardly moves";
-    EXPECT_EQ(hash.Value(), 13619338685583794656U);
+    EXPECT_EQ(hash.Value(), 16497392766802526064U);
 }
 
 }  // namespace

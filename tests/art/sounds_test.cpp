@@ -1,10 +1,7 @@
 // Sounds: the format that the player expects, a level that hurts nobody, no click at either end.
 #include <algorithm>
 #include <cmath>
-#include <complex>
 #include <cstdint>
-#include <numbers>
-#include <set>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -95,39 +92,6 @@ TEST(Sounds, BeginAndEndWithoutAClick) {
                 << row.Name << ", " << i << " from its end";
         }
     }
-}
-
-// The loudest tone of that pitch (hertz) within a short stretch of the samples, as a share of full scale.
-double Loudest(const std::vector<double>& samples, double pitch) {
-    constexpr std::size_t Stretch = 2048;
-    const double turn = 2 * std::numbers::pi / Stretch;
-    const double step = 2 * std::numbers::pi * pitch / Rate;
-    double loudest = 0;
-    for (std::size_t from = 0; from + Stretch <= samples.size(); from += Stretch) {
-        std::complex<double> sum;
-        for (std::size_t i = 0; i < Stretch; ++i) {
-            const auto place = static_cast<double>(i);
-            const double window = 0.5 - 0.5 * std::cos(turn * place);
-            sum += samples[from + i] * window * std::polar(1.0, step * place);
-        }
-        loudest = std::max(loudest, 4 * std::abs(sum) / Stretch);
-    }
-    return loudest;
-}
-
-// The notes of the chord end at 12.4 kHz; what lies above would be distortion.
-TEST(Sounds, TheChordIsClean) {
-    const std::vector<double> samples = Samples(Bytes("WIN"));
-    EXPECT_GT(Loudest(samples, 783.99), 0.1);
-    for (double pitch = 14000; pitch < 21000; pitch += 50) {
-        EXPECT_LT(Loudest(samples, pitch), 0.0002) << pitch << " Hz";
-    }
-}
-
-TEST(Sounds, NoTwoAreEqual) {
-    std::set<QByteArray> different;
-    for (const SoundRow& row : Rows) different.insert(Bytes(row.Name));
-    EXPECT_EQ(different.size(), std::size(Rows));
 }
 
 }  // namespace

@@ -1,8 +1,5 @@
 // The catalogue of 350 games: groups, numbers and names, and that no row changes unseen.
-#include <algorithm>
 #include <array>
-#include <cctype>
-#include <set>
 #include <span>
 #include <string>
 
@@ -24,31 +21,24 @@ struct Family {
     int Games;
     int Originals;
     std::span<const Definition> (*Table)();
-    void (*SetGame)(const std::string& name);
 };
 
 // In the order of the groups' numbers.
 // clang-format off
 constexpr std::array<Family, 11> families = {{
-    {"Baker's Dozen",      20, 15, gBDozen::Games,       gBDozen::SetGame},
-    {"Beleaguered Castle", 25, 16, gBeCastle::Games,     gBeCastle::SetGame},
-    {"Canfield",           20, 10, gCanfield::Games,     gCanfield::SetGame},
-    {"Fan",                15,  8, gFan::Games,          gFan::SetGame},
-    {"Forty Thieves",      45,  9, gFortyThieves::Games, gFortyThieves::SetGame},
-    {"Four Seasons",       10,  5, gFourSeasons::Games,  gFourSeasons::SetGame},
-    {"Freecell",           65, 51, gFreecell::Games,     gFreecell::SetGame},
-    {"Klondike",           60, 39, gKlondike::Games,     gKlondike::SetGame},
-    {"Sir Tommy",          10,  5, gSirTommy::Games,     gSirTommy::SetGame},
-    {"Spider",             60, 50, gSpider::Games,       gSpider::SetGame},
-    {"Yukon",              20, 17, gYukon::Games,        gYukon::SetGame},
+    {"Baker's Dozen",      20, 15, gBDozen::Games},
+    {"Beleaguered Castle", 25, 16, gBeCastle::Games},
+    {"Canfield",           20, 10, gCanfield::Games},
+    {"Fan",                15,  8, gFan::Games},
+    {"Forty Thieves",      45,  9, gFortyThieves::Games},
+    {"Four Seasons",       10,  5, gFourSeasons::Games},
+    {"Freecell",           65, 51, gFreecell::Games},
+    {"Klondike",           60, 39, gKlondike::Games},
+    {"Sir Tommy",          10,  5, gSirTommy::Games},
+    {"Spider",             60, 50, gSpider::Games},
+    {"Yukon",              20, 17, gYukon::Games},
 }};
 // clang-format on
-
-std::string LowerCase(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
-    return text;
-}
 
 class Catalogue : public testing::Test {
     const Engine engine_;
@@ -79,34 +69,6 @@ TEST_F(Catalogue, GroupsAndNumbersFollowTheListOfFamilies) {
     EXPECT_EQ(gData->GetGameID("Tam o 'Shanter"), 909);
     for (const char* unknown : {"klondike", "KLONDIKE", "Klondike ", "", "Will o the Wisp"}) {
         EXPECT_EQ(gData->GetGameID(unknown), 0) << '"' << unknown << '"';
-    }
-}
-
-TEST_F(Catalogue, ListsAreAlphabeticalButForTheTwoKnownPlaces) {
-    // In these the blank sorts behind the letter.
-    const std::set<std::string> outOfOrder = {"Spider Freecell", "Spider One Suit"};
-    for (const Family& family : families) {
-        const std::span<const Definition> games = family.Table();
-        for (std::size_t i = 1; i < games.size(); ++i) {
-            const std::string name(games[i].Name);
-            const bool rising = LowerCase(std::string(games[i - 1].Name)) < LowerCase(name);
-            EXPECT_EQ(rising, !outOfOrder.contains(name)) << name;
-        }
-    }
-    EXPECT_LT(gData->MidfromName("Spidercells"), gData->MidfromName("Spider Freecell"));
-    EXPECT_LT(gData->MidfromName("Spiderette"), gData->MidfromName("Spider One Suit"));
-}
-
-TEST_F(Catalogue, AFamilyLeavesTheNamesOfOthersAlone) {
-    mGen::SetGameRules("Durbar Hall");
-    const cGames before = *gGames;
-    for (const Family& family : families) {
-        for (const Family& other : families) {
-            if (other.SetGame == family.SetGame) continue;
-            for (const Definition& game : other.Table()) family.SetGame(std::string(game.Name));
-        }
-        family.SetGame("");
-        EXPECT_TRUE(*gGames == before) << family.Group;
     }
 }
 

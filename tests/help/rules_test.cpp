@@ -35,18 +35,6 @@ protected:
     Engine engine_;
 };
 
-TEST_F(Rules, EveryGameHasAPageUnderItsId) {
-    ASSERT_EQ(mRules::AllGames().size(), static_cast<std::size_t>(gData->TotalGames()));
-    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) {
-        const std::string& name = gData->GetGame(SiD);
-        const int id = mRules::AllGames()[static_cast<std::size_t>(SiD - 1)];
-        EXPECT_EQ(id, gData->GetGameID(name));
-        EXPECT_EQ(mRules::Name(id), name);
-        EXPECT_NE(mRules::Page(id).find("src=\"deal:" + std::to_string(id) + '"'), std::string::npos) << name;
-    }
-    for (const int none : {0, 100, 121, 1121}) EXPECT_EQ(mRules::Page(none), "") << none;
-}
-
 // The opening deal as the engine deals it: the closed cards of each tableau pile.
 std::vector<std::vector<bool>> DealtFaces() {
     std::vector<std::vector<bool>> piles;
@@ -182,39 +170,6 @@ TEST_F(Rules, ANumberThatChangesPlayChangesTheText) {
     }
     for (std::size_t column = 0; column < ColumnCount; ++column)
         EXPECT_TRUE(noticed[column] > 0 || column == Waste) << column;
-}
-
-// Numbers that mean nothing in their game leave no trace in the text.
-TEST_F(Rules, ANumberWithoutEffectIsNotTold) {
-    struct Row {
-        const char* What;
-        const char* Game;
-        std::function<void(Definition&)> Make;
-    };
-    const Row rows[] = {
-        {"the cards of a staircase", "Klondike", [](Definition& game) { game.HomeCards = 52; }},
-        {"how many cards of a staircase are open", "Klondike", [](Definition& game) { game.HomeOpen = 1; }},
-        {"redeals without the mark for one", "Forty Thieves", [](Definition& game) { game.Redeals = 3; }},
-        {"a mark where no redeal is granted", "Forty Thieves",
-         [](Definition& game) { game.StockMark = StockNum::Redeal; }},
-        {"a press on a stock that is never there", "Freecell",
-         [](Definition& game) { game.StockPress = StockMove::OneToWaste; }},
-        {"the other code for no refill", "Blockade", [](Definition& game) { game.Refill = AutoFill::None; }},
-        {"what may be dropped on no reserve", "Klondike",
-         [](Definition& game) { game.ResNum = ResFreeCells; }},
-        {"how the runs divide in a game without runs", "Freecell",
-         [](Definition& game) { game.GoalDiv = 4; }},
-        {"the tag of another pattern", "Freecell", [](Definition& game) { game.Tag = "3"; }},
-        {"a run's rule where single cards move", "Forty Thieves",
-         [](Definition& game) { game.HomeMulti = RuleCode::Always; }},
-        {"a wrap where nothing is built", "Stalactites", [](Definition& game) { game.HomeAK = 1; }},
-    };
-    for (const Row& row : rows) {
-        Definition changed = *mRules::Find(gData->GetGameID(row.Game));
-        const std::string text = mRules::PlainText(changed);
-        row.Make(changed);
-        EXPECT_EQ(mRules::PlainText(changed), text) << row.What;
-    }
 }
 
 // What a reader sees: whole sentences, no doubled blank or word, singular and plural right.

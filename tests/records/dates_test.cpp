@@ -142,15 +142,4 @@ TEST(Dates, MoveByCalendarUnits) {
     }
 }
 
-TEST(Dates, DayNumbersCountFrom1970) {
-    const auto day = [](const char* text) { return mDates::DayNumber(*mDates::ParseFixed(text)); };
-    EXPECT_EQ(day("1970-01-01"), 0);
-    EXPECT_EQ(day("1969-12-31"), -1);
-    EXPECT_EQ(day("2000-03-01"), 11017);
-    EXPECT_EQ(day("9999-12-31"), 2932896);
-    EXPECT_EQ(mDates::Text(mDates::FromDayNumber(11016)), "2000-02-29 00:00:00");
-    EXPECT_EQ(mDates::Seconds(*mDates::ParseFixed("1970-01-02 01:02:03")), 90123);
-    EXPECT_THROW((void)mDates::IntervalOf("w"), std::out_of_range);
-}
-
 }  // namespace

@@ -151,15 +151,6 @@ TEST_F(Kept, FollowsARenamedPlayerAndGoesWithADeletedOne) {
     EXPECT_FALSE(files_.Exists(cScore::FileName("Bob")));
 }
 
-TEST_F(Kept, AFavouriteWaitsToo) {
-    files_.Fails = "fav.dat";
-    EXPECT_FALSE(gScore->AddFav("Klondike", 5.0));
-    EXPECT_THAT(Messages(), ElementsAre(HasSubstr("fav.dat: No space left on device")));
-    files_.Fails.clear();
-    EXPECT_TRUE(gScore->AddFav("Klondike", std::string("6")));
-    EXPECT_EQ(files_.Contents[cScore::FavFileName()], "\"Klondike\",5\r\n\"Klondike\",\"6\"\r\n");
-}
-
 TEST_F(Kept, FilesThatCannotBeReadOrDeletedAreNamed) {
     Play("Player1", 1.0);
     Play("Bob", 2.0);

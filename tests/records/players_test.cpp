@@ -151,16 +151,4 @@ TEST(Players, WhatAKilledProgramLeftIsPutRightAtTheNextStart) {
     }
 }
 
-TEST(Players, ASelectionOwnsTheRecordsThatFollow) {
-    Records records({"Ann", "Bob"});
-    gData->Figures.CurGName = "Klondike";
-    mPlayers::Select("Bob");
-    gScore->AddScore(0);
-    mPlayers::Select("Nobody");
-    mPlayers::Select("");
-    EXPECT_EQ(gData->CurPlayer(), "Bob");
-    EXPECT_TRUE(records.HasFile("Bob"));
-    EXPECT_FALSE(records.HasFile("Ann"));
-}
-
 }  // namespace

@@ -66,17 +66,6 @@ TEST(Plot, EveryValueLeavesABarAndNoneHidesAnother) {
     }
 }
 
-TEST(Plot, ASmallValueIsHigherThanNoneAndLowerThanALargeOne) {
-    for (const Kind kind : {Kind::Effort, Kind::Strips}) {
-        const auto data = kind == Kind::Effort ? Efforts({{0, 1, 100000}})
-                                               : Efforts({{0, 0, 0}, {1, 1, 1}, {100000, 1000, 1000}});
-        const auto bars = mPlot::Make(kind, data).Bars;
-        for (std::size_t i = 1; i < 3; ++i) {
-            EXPECT_GT(bars[i].Top - bars[i].Bottom, bars[i - 1].Top - bars[i - 1].Bottom);
-        }
-    }
-}
-
 TEST(Plot, HeightsAreLabelledAtRoundNumbers) {
     struct Row {
         int Low, High;  // of the scores and of the times
@@ -104,27 +93,6 @@ TEST(Plot, HeightsAreLabelledAtRoundNumbers) {
         }
         EXPECT_THAT(times, ElementsAreArray(row.Times));
     }
-}
-
-TEST(Plot, LabelsKeepTheirDistance) {
-    const std::vector<mPlot::Label> labels{{0.0, "0", true}, {0.1, "50"},  {0.2, "100"},
-                                           {0.3, "0", true}, {0.5, "200"}, {0.7, "400"}};
-    EXPECT_THAT(Texts(mPlot::Spaced(labels, 0.05)), ElementsAre("0", "50", "100", "0", "200", "400"));
-    EXPECT_THAT(Texts(mPlot::Spaced(labels, 0.15)), ElementsAre("0", "0", "200", "400"));
-    EXPECT_THAT(Texts(mPlot::Spaced(labels, 0.25)), ElementsAre("0", "0", "400"));
-    EXPECT_EQ(mPlot::LabelStep(47, 50), 1);
-    EXPECT_EQ(mPlot::LabelStep(47, 25), 2);
-    EXPECT_EQ(mPlot::LabelStep(47, 15), 5);
-    EXPECT_EQ(mPlot::LabelStep(47, 1), 50);
-}
-
-TEST(Plot, SaysItsValuesInWords) {
-    const ChartData result{{"Won : 20", "Lost : 40"}, {{20, 40}}};
-    EXPECT_EQ(mPlot::Description(Kind::Result, result), "Won : 20, Lost : 40");
-    EXPECT_EQ(
-        mPlot::Description(Kind::Strips,
-                           Efforts({{std::nullopt, std::nullopt, std::nullopt}, {-5, 7, 61}, {1, 2, 3}})),
-        "1: Score -5, Moves 7, Time 0:01:01; 2: Score 1, Moves 2, Time 0:00:03");
 }
 
 }  // namespace

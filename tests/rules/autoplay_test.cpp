@@ -51,19 +51,6 @@ TEST_F(Autoplay, SettingAndGameSwitchItOffButNotTheRefill) {
     Expect({{"off by the game", table + "H0 5C AS; H1 9D"}});
 }
 
-TEST_F(Autoplay, SwitchingOnRunsAPassAtOnce) {
-    mPosition::Begin({});
-    mScript::Lay("H0 5C AS");
-    engine_.Layer.Sounds.Played.clear();
-    mMain::FlipAutoplay();
-    EXPECT_EQ(gData->Get(Setting::Autoplay), 0);
-    EXPECT_EQ(mPosition::Pile(Home, 0), "5C AS");
-    mMain::FlipAutoplay();
-    EXPECT_EQ(gData->Get(Setting::Autoplay), 1);
-    EXPECT_EQ(mPosition::Pile(Goal, 0), "AS");
-    EXPECT_THAT(engine_.Layer.Sounds.Played, testing::ElementsAre("AUTOPLAY"));
-}
-
 TEST_F(Autoplay, CompleteRuns) {
     const std::string alternating = "KS QH JS TH 9S 8H 7S 6H 5S 4H 3S 2H AS";
     gData->Set(Setting::Autoplay, 0);
@@ -90,26 +77,6 @@ TEST_F(Autoplay, CompleteRuns) {
         {"built down from the Kings", "H1 AS-KS | auto | G1 KS-AS"},
         {"built down from the Kings: not from an Ace", "H1 KS-AS | auto | ="},
     });
-}
-
-TEST_F(Autoplay, WhereCompleteRunsGo) {
-    struct Row {
-        int Div, Piles;
-        const char* Run;
-        const char* Pile;
-    };
-    game_.Ext.Cards = 104;
-    game_.Ext.GameType = GameType::CompleteRuns;
-    game_.Ext.cDisAutoPlay = true;
-    for (const Row& row : {Row{0, 8, "D'", "G6"}, Row{4, 4, "D'", "G2"}, Row{0, 1, "C", "G3"},
-                           Row{8, 1, "C'", "G7"}, Row{2, 2, "C", "G1"}}) {
-        game_.Ext.GoalDiv = row.Div;
-        game_.Goal.Piles = row.Piles;
-        const std::string suit = row.Run;
-        const std::string there = std::string(row.Pile) + " AS-KS";
-        Expect({{"on top of what lies there",
-                 there + "; H0 K" + suit + "-A" + suit + " | auto | " + there + " A" + suit + "-K" + suit}});
-    }
 }
 
 TEST_F(Autoplay, Refills) {

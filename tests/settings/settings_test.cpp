@@ -17,44 +17,6 @@ protected:
     Engine engine_;
 };
 
-TEST_F(Settings, Defaults) {
-    struct Row {
-        const NumberSetting& Setting;
-        const char* Key;
-        int Default;
-        int Other;  // a value inside the range
-    };
-    // clang-format off
-    const Row rows[] = {
-        {Setting::Autoplay,      "Autoplay",      1,    0},        {Setting::CustomColor,   "CustomColor", 128, 16777215},
-        {Setting::ShowToolbar,   "ShowToolbar",   1,    0},        {Setting::CardSpeed,     "CardSpeed",   5,   50},
-        {Setting::UndoSpeed,     "UndoSpeed",     5,    0},        {Setting::UndoallSpeed,  "UndoallSpeed", 2,  50},
-        {Setting::ReplaySpeed,   "ReplaySpeed",   7,    1},        {Setting::SoundStart,    "SoundStart",  -1,  0},
-        {Setting::SoundCardDown, "SoundCardDown", 0,   -1},        {Setting::SoundCardUp,   "SoundCardUp", 0,   -1},
-        {Setting::SoundUndo,     "SoundUndo",    -1,    0},        {Setting::SoundRedo,     "SoundRedo",   -1,  0},
-        {Setting::SoundAutoPlay, "SoundAutoPlay", -1,   0},        {Setting::SoundWin,      "SoundWin",    -1,  0},
-        {Setting::ShowTime,      "ShowTime",      1,    0},        {Setting::ShowScore,     "ShowScore",   1,   0},
-        {Setting::ShowMoves,     "ShowMoves",     1,    0},        {Setting::BGIndex,       "BGIndex",     1007, 1025},
-        {Setting::RangeIndex,    "RangeIndex",    15,   0},        {Setting::DeckIndex,     "DeckIndex",   531, 501},
-        {Setting::TvIndex,       "TvIndex",       1,    2},        {Setting::Fade,          "Fade",        1,   0},
-    };
-    // clang-format on
-    EXPECT_EQ(std::size(rows), 22U);
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.Key);
-        const std::string key = std::string("Data/") + row.Key;
-        EXPECT_FALSE(engine_.Layer.Settings.Values.contains(key)) << "a default is not written";
-        gData->Set(row.Setting, row.Other);
-        EXPECT_EQ(Stored(key), std::to_string(row.Other));
-        EXPECT_EQ(gData->Get(row.Setting), row.Other);
-        for (const char* damaged :
-             {"", " ", "x", "1x", "1.5", "0x1", "99999999999999999999", "16777216", "-2"}) {
-            Stored(key) = damaged;
-            EXPECT_EQ(gData->Get(row.Setting), row.Default) << '"' << damaged << '"';
-        }
-    }
-}
-
 TEST_F(Settings, TheLastGameIsOneOfTheCatalogue) {
     EXPECT_EQ(gData->LastGName(), "Baker's Dozen");
     gData->SetCurGName("Spider");

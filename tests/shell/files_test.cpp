@@ -216,23 +216,6 @@ TEST_F(Files, FoldersAndReading) {
     EXPECT_EQ(content, large);
 }
 
-TEST(DataFolder, FollowsTheVariableUnlessItIsRelative) {
-    const QByteArray data = qgetenv("XDG_DATA_HOME");
-    const QByteArray home = qgetenv("HOME");
-    qputenv("HOME", "/home/someone");
-    const QtFiles files;
-    qputenv("XDG_DATA_HOME", "/data");
-    EXPECT_EQ(files.DataFolder(), "/data/");
-    qputenv("XDG_DATA_HOME", "/data/");
-    EXPECT_EQ(files.DataFolder(), "/data/");
-    for (const char* none : {"", "data"}) {
-        qputenv("XDG_DATA_HOME", none);
-        EXPECT_EQ(files.DataFolder(), "/home/someone/.local/share/");
-    }
-    qputenv("XDG_DATA_HOME", data);
-    qputenv("HOME", home);
-}
-
 /// Each test has settings of its own: the folder is Qt's, the application's name is new.
 class Settings : public testing::Test {
 protected:
@@ -290,12 +273,6 @@ TEST_F(Settings, EveryTextComesBackFromTheDisk) {
     EXPECT_THAT(reports_, IsEmpty());
 }
 
-TEST_F(Settings, SectionsAndKeysStandInTheFileByTheirNames) {
-    settings_.SaveSettings(application_, {{"Users", "100", "Player1"}, {"Recent", "1", "Klondike"}});
-    EXPECT_EQ(Content(FileName()), "[Recent]\n1=Klondike\n\n[Users]\n100=Player1\n");
-    EXPECT_THAT(FileName(), testing::EndsWith("/Kelmor/" + application_ + ".conf"));
-}
-
 TEST_F(Settings, ValuesSavedTogetherArriveTogether) {
     Save(settings_, "a", "1");
     std::set<std::string> seen;
@@ -309,16 +286,6 @@ TEST_F(Settings, ValuesSavedTogetherArriveTogether) {
     seen.erase("[Data]\na=1\n");
     seen.erase(after);
     EXPECT_THAT(seen, IsEmpty());
-}
-
-TEST_F(Settings, TextTypedIntoTheFileByHandIsRead) {
-    ASSERT_EQ(Get(settings_, "a"), "default");
-    ASSERT_EQ(QtFiles().MakeFolder(Folder()), std::nullopt);
-    Put(FileName(), "[Data]\na=Smith, John\nb = 12 \n; a remark\nc=\n");
-    const QtSettings other;
-    EXPECT_EQ(Get(other, "a"), "Smith, John");
-    EXPECT_EQ(Get(other, "b"), "12");
-    EXPECT_EQ(Get(other, "c"), "");
 }
 
 TEST_F(Settings, TwoProgramsKeepEachOthersValues) {

@@ -28,19 +28,6 @@ std::vector<int> Shuffled(int cards, const GameNumber& number) {
     return values;
 }
 
-TEST(Shuffle, IsAPermutation) {
-    const Engine engine;
-    for (const int cards : {26, 52, 104}) {
-        std::set<std::vector<int>> all;
-        for (int number = 0; number < 200; ++number) {
-            std::vector<int> values = Shuffled(cards, number * 7919.0);
-            EXPECT_TRUE(all.insert(values).second) << "two numbers, one deal";
-            std::sort(values.begin(), values.end());
-            for (int i = 0; i < cards; ++i) ASSERT_EQ(values[static_cast<std::size_t>(i)], i);
-        }
-    }
-}
-
 TEST(Shuffle, GoesByTheValueOfTheNumber) {
     const Engine engine;
     const auto deal = [](const GameNumber& number) { return Shuffled(52, number); };
@@ -51,21 +38,6 @@ TEST(Shuffle, GoesByTheValueOfTheNumber) {
     EXPECT_NE(deal(12.5), deal(12.0));
     EXPECT_NE(deal(-12.0), deal(12.0));
     EXPECT_NE(deal(999999999999998.0), deal(999999999999999.0)) << "fifteen digits count";
-}
-
-// Draws are rounded, so the first and the last of the cards still in hand come up half as often.
-TEST(Shuffle, RoundsItsDraws) {
-    const Engine engine;
-    constexpr int Deals = 20000;
-    int first = 0;
-    int second = 0;
-    for (int number = 1; number <= Deals; ++number) {
-        const int value = Shuffled(26, static_cast<double>(number)).front();
-        first += value == 0 ? 1 : 0;
-        second += value == 1 ? 1 : 0;
-    }
-    EXPECT_NEAR(first, Deals / 50.0, 60);
-    EXPECT_NEAR(second, Deals / 25.0, 90);
 }
 
 // A player's favourite deal must stay what it is for ever. Nothing in these rows may ever be changed.
@@ -108,13 +80,6 @@ TEST(Shuffle, DealsNeverChange) {
         EXPECT_EQ(Shuffled(row.Cards, row.Number), row.Values)
             << row.Cards << " cards, " << mGameNumber::Text(row.Number);
     }
-}
-
-TEST(Rounding, TiesGoToTheEvenNumber) {
-    const std::vector<std::pair<double, int>> rows = {{0.5, 0},    {1.5, 2},    {2.5, 2},
-                                                      {-0.5, 0},   {-1.5, -2},  {-2.5, -2},
-                                                      {2.4999, 2}, {2.5001, 3}, {-2.5001, -3}};
-    for (const auto& [value, rounded] : rows) EXPECT_EQ(RoundToEven(value), rounded) << value;
 }
 
 using MoveCard = RulesTest;

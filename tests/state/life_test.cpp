@@ -35,25 +35,6 @@ protected:
     Engine engine_;
 };
 
-TEST_F(Life, StartsOnAnEmptyTable) {
-    EXPECT_EQ(engine_.Layer.Forms.Caption, "Tarnival 2004 11.0");
-    EXPECT_EQ(gData->SesStartTime, "2004-01-01 00:00:00");
-    EXPECT_EQ(gData->CurPlayer(), "Player1");
-    EXPECT_TRUE(engine_.Layer.Files.Exists("/data/Kelmor/Tarnival 2004 11.0/"));
-    EXPECT_THAT(engine_.Layer.Forms.Recent, ElementsAre("", "", "", "", ""));
-    // Nothing to be done without a game.
-    mMain::Undo(1);
-    mMain::StockClick();
-    mMain::CloseGame();
-    mMain::RestartGame();
-    mMain::RecentGame(1);
-    mMain::ReplayAll();
-    mMain::TickReplay();
-    EXPECT_FALSE(gData->Figures.GameRunning);
-    EXPECT_EQ(gScore->SesTop(), 0);
-    EXPECT_EQ(mMain::ReplayState(), mMain::Replay::Stopped);
-}
-
 TEST_F(Life, NewGamesHaveANumberInsideTheRange) {
     double most = 1.0;
     for (int digits = 0; digits <= 15; ++digits, most *= 10.0) {
@@ -114,22 +95,6 @@ TEST_F(Life, AGameLeavesNothingToTheNext) {
     }
 }
 
-TEST_F(Life, AnUnknownNameStartsNothing) {
-    mGen::StartGame("Klondike", 5.0);
-    const std::vector<CardPlace> before = mChecks::Places();
-    for (const char* name : {"", "klondike", "No such game"}) {
-        mGen::StartGame(name, 5.0);
-        EXPECT_EQ(Difference(before), "");
-        EXPECT_EQ(gData->Figures.CurGName, "Klondike");
-        EXPECT_EQ(gData->GetRecent(1), "Klondike");
-        EXPECT_EQ(gScore->SesTop(), 0);
-    }
-    mSelect::Play("Ann", "No such game");
-    EXPECT_THAT(engine_.Layer.Forms.Messages, ElementsAre("There is no game \"No such game\"."));
-    EXPECT_EQ(gData->CurPlayer(), "Player1");
-    EXPECT_EQ(Difference(before), "");
-}
-
 // The deal lets window events run: whatever comes then must not touch it.
 TEST_F(Life, CommandsDuringADealAreIgnored) {
     for (const char* game : {"Klondike", "Spider", "Freecell", "Mobile Gallery"}) {
@@ -173,30 +138,6 @@ TEST_F(Life, CommandsDuringADealAreIgnored) {
         EXPECT_EQ(Difference(deal), "");
         EXPECT_EQ(mChecks::TableFault(), "");
     }
-}
-
-// The player whom the selection names gets the game that it abandons.
-TEST_F(Life, SelectingForAnotherPlayer) {
-    mSelect::PlayNumber("", "Klondike", "12");
-    mSelect::PlayNumber("Ann", "Spider", "13");
-    EXPECT_EQ(gScore->GetSes(1).Player, "Ann");
-    EXPECT_EQ(gScore->GetSes(1).gName, "Klondike");
-    EXPECT_EQ(std::get<std::string>(gScore->GetSes(1).GameNo), "12") << "kept as typed";
-    EXPECT_EQ(engine_.Layer.Forms.Caption, "Tarnival 2004 11.0 [Spider] [Ann] [13]");
-}
-
-TEST_F(Life, RecentGames) {
-    for (const char* game :
-         {"Klondike", "Klondike", "Spider", "Klondike", "Fan", "Fan", "Freecell", "Spider"}) {
-        mGen::StartGame(game, 1.0);
-    }
-    const std::vector<std::string> recent = {"Spider", "Freecell", "Fan", "Klondike", "Spider"};
-    EXPECT_EQ(engine_.Layer.Forms.Recent, recent);
-    EXPECT_EQ(gData->LastGName(), "Spider");
-    mMain::RecentGame(3);
-    EXPECT_EQ(gData->Figures.CurGName, "Fan");
-    EXPECT_EQ(engine_.Layer.Forms.Recent.front(), "Fan");
-    EXPECT_EQ(engine_.Layer.Forms.Recent.back(), "Klondike");
 }
 
 // While the running game is set aside other deals are computed; put back, it is as it was, and nothing

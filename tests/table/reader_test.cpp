@@ -64,28 +64,6 @@ TEST_F(Reader, PilesSayNameNumberAndCountOrWhatAnEmptyOneTakes) {
     EXPECT_EQ(mReader::PileText(stock), "Stock, empty, a redeal is possible");
 }
 
-TEST_F(Reader, EveryGameIsReadInFull) {
-    gData->Set(Setting::Autoplay, 0);
-    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) {
-        mGen::StartGame(gData->GetGame(SiD), 1.0);
-        SCOPED_TRACE(gData->GetGame(SiD));
-        std::set<std::string> names;
-        std::set<int> cards;
-        for (const PilePlace& pile : mReader::Piles()) {
-            const std::string text = mReader::PileText(pile);
-            EXPECT_THAT(text, MatchesRegex("(Tableau pile [0-9]+|Stock|Waste|"
-                                           "(Foundation|Reserve)( pile [0-9]+)?), "
-                                           "(1 card|([2-9]|[1-9][0-9]+) cards|empty(, takes an? [A-Z][a-z]+|"
-                                           ", no redeal|, a redeal is possible)?)"));
-            EXPECT_TRUE(names.insert(text.substr(0, text.find(','))).second) << text;
-            for (int Pos = 0; Pos < mReader::Count(pile); ++Pos) cards.insert(mReader::Card(pile, Pos));
-        }
-        EXPECT_EQ(static_cast<int>(cards.size()), gGames->TotalCards());
-    }
-    mGen::CloseGame(0);
-    EXPECT_THAT(mReader::Piles(), IsEmpty());
-}
-
 TEST_F(Reader, APointShowsWhatLiesInFront) {
     mPosition::Begin({});
     mPosition::Lay(Home, 0, "KS QH");

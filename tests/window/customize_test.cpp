@@ -59,43 +59,6 @@ protected:
     PaintedForms forms_;
 };
 
-TEST_F(Customize, TheTreesListWhatThePicturesHave) {
-    std::vector<int> numbers;
-    const std::function<void(const mCustomize::Node&)> walk = [&](const mCustomize::Node& node) {
-        if (node.Tag != 0) numbers.push_back(node.Tag);
-        for (const mCustomize::Node& child : node.Children) walk(child);
-    };
-    const mCustomize::Node backgrounds = mCustomize::Backgrounds();
-    walk(backgrounds);
-    ASSERT_EQ(numbers.size(), 1u + 20u + 33u);
-    for (const int number : numbers) {
-        const QImage tile = Art::Tile(number);
-        EXPECT_EQ(tile.isNull(), mCustomize::CanFade(number)) << number;
-    }
-    EXPECT_EQ(backgrounds.Text, "Backgrounds");
-    const auto& colors = backgrounds.Children.at(0);
-    EXPECT_EQ(colors.Text, "Colors");
-    EXPECT_EQ(colors.Children.at(0).Text, "Custom Color");
-    EXPECT_EQ(colors.Children.at(0).Tag, 1000);
-    EXPECT_EQ(colors.Children.at(7).Text, "Dark Green");
-    EXPECT_EQ(colors.Children.at(7).Tag, 1007);
-    EXPECT_EQ(colors.Children.at(20).Text, "Purple");
-    EXPECT_EQ(backgrounds.Children.at(1).Children.at(0).Text, "Bricks 01");
-    EXPECT_EQ(backgrounds.Children.at(8).Children.at(2).Text, "Wood 03");
-    EXPECT_EQ(backgrounds.Children.at(8).Children.at(2).Tag, 73);
-
-    numbers.clear();
-    walk(mCustomize::Decks());
-    EXPECT_THAT(numbers,
-                ElementsAre(501, 502, 503, 511, 512, 521, 522, 523, 531, 532, 533, 541, 542, 543, 544));
-    for (const int number : numbers) {
-        EXPECT_FALSE(Art::Picture(QStringLiteral("backs/%1").arg(number), 1.0).isNull()) << number;
-    }
-    EXPECT_EQ(mCustomize::Decks().Children.at(1).Children.at(1).Text, "Garden 02");
-    EXPECT_EQ(mAssets::GetCol(1025)->Color, 255 + 256 * 99 + 65536 * 71);
-    EXPECT_EQ(mAssets::GetCol(1026), nullptr);
-}
-
 TEST_F(Customize, SomeControlsActAtOnceWhateverCancelDoes) {
     struct Row {
         const char* Control;
@@ -232,42 +195,6 @@ TEST_F(CustomizeChanged, OKWritesAllAndChangesTheTableOnly) {
     EXPECT_EQ(forms_.Painted, 1);
     EXPECT_TRUE(PicBack == expected) << "the cards have the new back, and nothing else has changed";
     EXPECT_TRUE(gData->Figures.GameRunning);
-}
-
-TEST_F(Customize, ColorsEnableWhatTheyHaveAUseFor) {
-    struct Row {
-        int Stored;
-        bool Custom;
-        bool Fade;
-        const char* Selected;
-    };
-    const Row rows[] = {
-        {1000, true, true, "Custom Color"}, {1007, false, true, "Dark Green"},
-        {1020, false, true, "Purple"},      {1023, false, true, ""},
-        {63, false, false, "Water 03"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.Stored);
-        gData->Set(Setting::BGIndex, row.Stored);
-        frmCustomize dialog;
-        Open(dialog);
-        ShowTab(dialog, 1);
-        EXPECT_EQ(Enabled(dialog, "cmdCustom"), row.Custom);
-        EXPECT_EQ(Enabled(dialog, "chkFade"), row.Fade);
-        EXPECT_EQ(Selected(Find<QTreeWidget>(dialog, "tvBGround")), row.Selected);
-        const QImage shown = Look(dialog, "Picture1");
-        // A group keeps the background and needs neither control; its members need their own.
-        ClickNode(dialog, "tvBGround", "Colors");
-        EXPECT_FALSE(Enabled(dialog, "cmdCustom"));
-        EXPECT_FALSE(Enabled(dialog, "chkFade"));
-        EXPECT_EQ(Look(dialog, "Picture1"), shown);
-        ClickNode(dialog, "tvBGround", "Custom Color");
-        EXPECT_TRUE(Enabled(dialog, "cmdCustom"));
-        EXPECT_TRUE(Enabled(dialog, "chkFade"));
-        ClickNode(dialog, "tvBGround", "Wood 02");
-        EXPECT_FALSE(Enabled(dialog, "cmdCustom"));
-        EXPECT_FALSE(Enabled(dialog, "chkFade"));
-    }
 }
 
 TEST_F(Customize, ThePreviewsFollowBothTabs) {

@@ -82,39 +82,6 @@ protected:
     }
 };
 
-TEST_F(Dialogs, SelectListsEveryGameInThreeWays) {
-    frmSelect dialog;
-    EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Tarnival 2004 11.0"));
-    const auto root = [&](const char* tree) { return Find<QTreeWidget>(dialog, tree)->topLevelItem(0); };
-    const std::array<const char*, 3> trees{"tvwAll", "tvwGroups", "tvwOrg"};
-    const std::array<const char*, 3> names{"All Games", "Game Groups", "Original Games"};
-    int originals = 0;
-    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) originals += gData->IsOriginal(SiD) ? 1 : 0;
-    const std::array<int, 3> children{gData->TotalGames(), gData->TotalGroups(), originals};
-    for (std::size_t i = 0; i < trees.size(); ++i) {
-        EXPECT_EQ(root(trees[i])->text(0), QLatin1String(names[i]));
-        EXPECT_EQ(root(trees[i])->childCount(), children[i]);
-        EXPECT_TRUE(root(trees[i])->isExpanded());
-    }
-    for (const char* tree : {"tvwAll", "tvwOrg"}) {
-        for (int i = 1; i < root(tree)->childCount(); ++i) {
-            EXPECT_LT(
-                root(tree)->child(i - 1)->text(0).compare(root(tree)->child(i)->text(0), Qt::CaseInsensitive),
-                0)
-                << i;
-        }
-    }
-    int SiD = 0;
-    for (int group = 0; group < 11; ++group) {
-        const QTreeWidgetItem* node = root("tvwGroups")->child(group);
-        EXPECT_EQ(node->text(0).toStdString(), gData->GroupfromGiD(group + 1));
-        EXPECT_FALSE(node->data(0, Qt::UserRole).isValid());
-        for (int i = 0; i < node->childCount(); ++i)
-            EXPECT_EQ(node->child(i)->data(0, Qt::UserRole).toInt(), ++SiD);
-    }
-    EXPECT_EQ(SiD, gData->TotalGames());
-}
-
 // A preview is a deal of its own, computed while another game runs.
 TEST_F(Dialogs, PreviewsOfAllGamesLeaveTheRunningGameAlone) {
     gData->Set(Setting::TvIndex, All);
@@ -174,21 +141,6 @@ TEST_F(Dialogs, SelectOpensOnTheLastGameTabAndPlayer) {
     EXPECT_EQ(Tree(dialog)->currentItem()->parent()->text(0), QStringLiteral("Klondike"));
 }
 
-TEST_F(Dialogs, TheOriginalGamesSelectTheLastGameOrTheFirstOfTheList) {
-    int original = 0;
-    int other = 0;
-    for (int SiD = gData->TotalGames(); SiD > 0; --SiD) (gData->IsOriginal(SiD) ? original : other) = SiD;
-    for (const int SiD : {original, other}) {
-        gData->SetCurGName(gData->GetGame(SiD));
-        frmSelect dialog;
-        ShowTab(dialog, Original);
-        const auto first =
-            Find<QTreeWidget>(dialog, "tvwOrg")->topLevelItem(0)->child(0)->text(0).toStdString();
-        EXPECT_EQ(Selected(dialog), SiD == original ? gData->GetGame(SiD) : first);
-        EXPECT_EQ(Text(dialog, "lblName"), Selected(dialog));
-    }
-}
-
 TEST_F(Dialogs, PlayStartsTheSelectedGameForTheChosenPlayer) {
     gData->SetPlayer(2, "Ann", false);
     frmSelect dialog;
@@ -202,44 +154,6 @@ TEST_F(Dialogs, PlayStartsTheSelectedGameForTheChosenPlayer) {
     EXPECT_EQ(gData->Get(Setting::TvIndex), All);
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
-}
-
-TEST_F(Dialogs, AGroupPlaysTheGameOfItsNameAndLeavesTheShownGame) {
-    gData->SetCurGName("Baker's Dozen");
-    frmSelect dialog;
-    Open(dialog);
-    ShowTab(dialog, Groups);
-    SelectNode(dialog, "Klondike", true);
-    EXPECT_EQ(Text(dialog, "lblName"), "Baker's Dozen");
-    EXPECT_TRUE(Find<QPushButton>(dialog, "cmdPlay")->isEnabled());
-    // Opening a group is no play.
-    QTreeWidgetItem* group = Tree(dialog)->currentItem();
-    const bool expanded = group->isExpanded();
-    DoubleClick(Tree(dialog), group);
-    EXPECT_NE(group->isExpanded(), expanded);
-    EXPECT_FALSE(gData->Figures.GameRunning);
-
-    QTest::keyClick(Tree(dialog), Qt::Key_Return);
-    EXPECT_TRUE(Playing("Klondike"));
-}
-
-TEST_F(Dialogs, ARootPlaysNothing) {
-    for (const Tab tab : {All, Groups, Original}) {
-        frmSelect dialog;
-        Open(dialog);
-        ShowTab(dialog, tab);
-        const std::string shown = Text(dialog, "lblName");
-        Tree(dialog)->setCurrentItem(Tree(dialog)->topLevelItem(0));
-        EXPECT_FALSE(Find<QPushButton>(dialog, "cmdPlay")->isEnabled());
-        EXPECT_EQ(Text(dialog, "lblName"), shown);
-        Tree(dialog)->setFocus();
-        QTest::keyClick(Tree(dialog), Qt::Key_Return);
-        EXPECT_TRUE(dialog.isVisible());
-        // The state belongs to the tab: back on a game it is there again.
-        ShowTab(dialog, tab == All ? Groups : All);
-        EXPECT_TRUE(Find<QPushButton>(dialog, "cmdPlay")->isEnabled());
-    }
-    EXPECT_FALSE(gData->Figures.GameRunning);
 }
 
 TEST_F(Dialogs, ADoubleClickOrReturnOnAGamePlaysIt) {
@@ -259,26 +173,6 @@ TEST_F(Dialogs, ADoubleClickOrReturnOnAGamePlaysIt) {
     }
     // The first of the two was abandoned, and only once.
     EXPECT_EQ(gScore->SesTop(), 1);
-}
-
-TEST_F(Dialogs, LeavingTheSelectionChangesNothing) {
-    mGen::StartGame("Klondike", 1.0);
-    gData->SetPlayer(2, "Ann", false);
-    for (const bool byKey : {false, true}) {
-        frmSelect dialog;
-        Open(dialog);
-        ShowTab(dialog, Original);
-        Find<QComboBox>(dialog, "imcPlayer")->setCurrentIndex(1);
-        if (byKey) {
-            QTest::keyClick(Tree(dialog), Qt::Key_Escape);
-        } else {
-            Click(dialog, "cmdCancel");
-        }
-        EXPECT_FALSE(dialog.isVisible());
-        EXPECT_EQ(gData->Get(Setting::TvIndex), Groups);
-        EXPECT_EQ(gData->CurPlayer(), "Player1");
-        EXPECT_TRUE(Playing("Klondike"));
-    }
 }
 
 TEST_F(Dialogs, TypingFindsAGameAlsoInAClosedGroup) {
@@ -308,40 +202,6 @@ TEST_F(Dialogs, TypingFindsAGameAlsoInAClosedGroup) {
         QTest::keyClicks(Tree(dialog), QStringLiteral("#"));
         EXPECT_EQ(Selected(dialog), row.Found) << "what no game begins with changes nothing";
     }
-}
-
-// In the order of the catalogue longer names come before these, and one is selected from the start.
-TEST_F(Dialogs, TypingInTheNumberDialogFindsTheNameThatWasTyped) {
-    gData->SetCurGName("Klondike");
-    for (const char* name : {"Spider", "Klondike", "Fan"}) {
-        frmChoose dialog;
-        Open(dialog);
-        auto* games = Find<QComboBox>(dialog, "cmGames");
-        games->setFocus();
-        QTest::keyClicks(games, QLatin1String(name));
-        EXPECT_EQ(games->currentText(), QLatin1String(name));
-    }
-}
-
-TEST_F(Dialogs, TheNumberDialogOpensOnAGoodNumber) {
-    gData->SetCurGName("Klondike");
-    for (const int digits : {1, 6, 15}) {
-        gData->Set(Setting::RangeIndex, digits);
-        frmChoose dialog;
-        Open(dialog);
-        const auto* number = Find<QLineEdit>(dialog, "Text1");
-        EXPECT_EQ(number->selectedText(), number->text());
-        EXPECT_TRUE(number->hasFocus());
-        EXPECT_LE(number->text().size(), digits);
-        EXPECT_GT(number->text().toDouble(), 0.0);
-        EXPECT_EQ(Find<QComboBox>(dialog, "cmGames")->currentText(), QStringLiteral("Klondike"));
-        EXPECT_EQ(Find<QComboBox>(dialog, "cmGames")->count(), gData->TotalGames());
-        EXPECT_EQ(Find<QComboBox>(dialog, "cmGames")->itemText(0), QStringLiteral("Baker's Dozen"));
-        EXPECT_EQ(Find<QComboBox>(dialog, "cmPlayer")->currentText(), QStringLiteral("Player1"));
-    }
-    frmChoose dialog;
-    EXPECT_EQ(Text(dialog, "lblName"), "Enter a Game Number between");
-    EXPECT_EQ(Text(dialog, "lblRange"), "0 and 999,999,999,999,999");
 }
 
 TEST_F(Dialogs, NumbersAreTakenInsideTheRangeOnly) {
@@ -390,32 +250,6 @@ TEST_F(Dialogs, NumbersAreTakenInsideTheRangeOnly) {
                 << "the text itself goes on as the number";
         }
     }
-}
-
-TEST_F(Dialogs, TheNumberDialogStartsTheChosenGameForTheChosenPlayer) {
-    gData->SetPlayer(2, "Ann", false);
-    mGen::StartGame("Klondike", 1.0);
-    frmChoose dialog;
-    Open(dialog);
-    auto* games = Find<QComboBox>(dialog, "cmGames");
-    games->setCurrentIndex(games->findText(QStringLiteral("Yukon")));
-    Find<QComboBox>(dialog, "cmPlayer")->setCurrentIndex(1);
-    Find<QLineEdit>(dialog, "Text1")->setText(QStringLiteral("77"));
-    Click(dialog, "cmdSelect");
-    EXPECT_TRUE(Playing("Yukon"));
-    ASSERT_EQ(gScore->SesTop(), 1);
-    EXPECT_EQ(gScore->GetSes(1).gName, "Klondike");
-    EXPECT_EQ(gScore->GetSes(1).Player, "Ann") << "the abandoned game goes to the player just chosen";
-}
-
-TEST_F(Dialogs, ANameInNoFamilyIsToldAndChangesNothing) {
-    mGen::StartGame("Klondike", 1.0);
-    gData->SetPlayer(2, "Ann", false);
-    mSelect::Play("Ann", "All Games");
-    EXPECT_THAT(layer_.Forms.Messages, ElementsAre("There is no game \"All Games\"."));
-    EXPECT_TRUE(Playing("Klondike"));
-    EXPECT_EQ(gData->CurPlayer(), "Player1");
-    EXPECT_EQ(gScore->SesTop(), 0);
 }
 
 TEST_F(Dialogs, TheEndOfAGameOffersWhatToDoNext) {

@@ -47,21 +47,6 @@ TEST_F(MainWindow, ADragPlaysACardAndARefusedOneGoesBack) {
     EXPECT_EQ(gTrans->GetTransID(), moves + 1);
 }
 
-TEST_F(MainWindow, ASecondButtonInADragChangesNothing) {
-    DealOne();
-    const QPoint grip = IndexOf(FittingCard);
-    const QPoint target = IndexOf(gArray->GetTopPicID(Home, 6));
-    QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, grip);
-    MoveMouse(target, Qt::LeftButton);
-    const auto held = PlaceOf(FittingCard);
-    QTest::mousePress(Viewport(), Qt::RightButton, Qt::NoModifier, target);
-    QTest::mouseRelease(Viewport(), Qt::RightButton, Qt::NoModifier, target);
-    EXPECT_TRUE(gDrag.gPicked);
-    EXPECT_EQ(PlaceOf(FittingCard), held);
-    QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, target);
-    EXPECT_EQ(gArray->GetTopPicID(Home, 6), FittingCard);
-}
-
 TEST_F(MainWindow, ADragThatEndsOutsideTheWindowReturns) {
     DealOne();
     const auto start = PlaceOf(FittingCard);
@@ -85,25 +70,6 @@ TEST_F(MainWindow, ACommandDuringADragPutsTheCardBackFirst) {
     EXPECT_EQ(mFunc::CardCell(FittingCard), Stock);
     EXPECT_EQ(PlaceOf(FittingCard), std::make_pair(gGames->GetCordX(Stock, 0, mFunc::CardPos(FittingCard)),
                                                    gGames->GetCordY(Stock, 0, mFunc::CardPos(FittingCard))));
-}
-
-TEST_F(MainWindow, ADoubleClickIsTwoPresses) {
-    mGen::StartGame("Klondike", 1.0);
-    const int before = gArray->GetTop(Stock);
-    const QPoint stock = IndexOf(gArray->GetTopPicID(Stock));
-    QTest::mouseClick(Viewport(), Qt::LeftButton, Qt::NoModifier, stock);
-    QTest::mouseDClick(Viewport(), Qt::LeftButton, Qt::NoModifier, stock);
-    EXPECT_LE(gArray->GetTop(Stock), before - 2);
-}
-
-TEST_F(MainWindow, AClickOnTheStocksMarkRedeals) {
-    mGen::StartGame("Klondike", 1.0);
-    while (gArray->GetTop(Stock) >= 0) gArray->AddtoWaste(gArray->GetTopPicID(Stock));
-    const int waste = gArray->GetTop(Waste);
-    const MarkRecord& mark = PicBack.Mark(MarkKind::Stock, 0);
-    QTest::mouseClick(Viewport(), Qt::LeftButton, Qt::NoModifier, At(mark.Left + 500, mark.Top + 700));
-    EXPECT_EQ(gArray->GetTop(Stock), waste);
-    EXPECT_EQ(gArray->GetTop(Waste), -1);
 }
 
 TEST_F(MainWindow, CommandsAreEnabledAsTheGameStands) {
@@ -209,18 +175,6 @@ TEST_F(MainWindow, ClosingTheWindowRecordsARunningGameAsLost) {
     EXPECT_EQ(gData, nullptr);
     const std::string& file = memory_.Files.Contents["/data/Kelmor/Tarnival 2004 11.0/Player1.sre"];
     EXPECT_EQ(file, "\"2004-01-01 00:00:00\",\"Klondike\",1,0,0,0,0\r\n");
-}
-
-TEST_F(MainWindow, TheWindowOpensWithTheDesignedTable) {
-    EXPECT_EQ(window_->width(), 673);
-    EXPECT_EQ(window_->findChild<QWidget*>(QStringLiteral("PicMain"))->mapTo(window_.get(), QPoint()).x(), 0);
-    // The plate is centred: a card at its middle lies at the middle of the view, 20 twips to the left.
-    const QPoint middle = At(PlateWidth / 2, 0);
-    EXPECT_NEAR(middle.x(), 673 / 2 - 1, 1);
-    EXPECT_EQ(middle.y(), 0);
-    mMain::FlipToolbar();
-    QTest::qWait(50);
-    EXPECT_EQ(window_->findChild<QWidget*>(QStringLiteral("PicMain"))->height(), 437);
 }
 
 }  // namespace

@@ -45,15 +45,6 @@ TEST(PicturesByNumber, UnknownNumbersGiveTheDefaultPicture) {
     EXPECT_EQ(Background(1026, 0, 255).pixelColor(9, 9), QColor(255, 0, 0)) << "the custom colour";
 }
 
-TEST(PicturesByNumber, EachScaleHasItsOwnPictures) {
-    for (const double scale : {1.0, 2.5, 1.0}) {
-        const QSize size(qRound(71 * scale), qRound(96 * scale));
-        EXPECT_EQ(mPictures::MainPic(52, scale).size(), size);
-        EXPECT_EQ(mPictures::GetPic(501, scale).size(), size);
-        EXPECT_EQ(mPictures::RightPic(0, scale).size(), size);
-    }
-}
-
 TEST(PicturesByNumber, ColorsFadeToBlackOrStayFlat) {
     struct Row {
         int Number;
@@ -76,16 +67,6 @@ TEST(PicturesByNumber, ColorsFadeToBlackOrStayFlat) {
             EXPECT_LE(faded.pixelColor(0, y).green(), faded.pixelColor(0, y - 1).green()) << y;
         }
         EXPECT_EQ(Background(row.Number, 2, row.CustomColor), flat) << "only 1 fades";
-    }
-}
-
-TEST(PicturesByNumber, ATileRepeatsFromTheCornerOfThePlate) {
-    const QImage tile = Art::Tile(12);
-    const QImage table = Background(12, 0);
-    for (int y = 0; y < table.height(); y += 7) {
-        for (int x = 0; x < table.width(); x += 7) {
-            ASSERT_EQ(table.pixel(x, y), tile.pixel(x % tile.width(), y % tile.height())) << x << ' ' << y;
-        }
     }
 }
 

@@ -28,14 +28,6 @@ protected:
         gData->SetPlayer(2, "Ann", false);
         gData->SetPlayer(3, "Bob", false);
     }
-    /// Enters a name into the name dialog that a button opens.
-    static void EnterName(const frmPlayers& dialog, const char* button, const QString& name) {
-        OnModal([&name](QWidget& input) {
-            Find<QLineEdit>(input, "Text1")->setText(name);
-            Click(input, "OKButton");
-        });
-        Click(dialog, button);
-    }
 };
 
 TEST_F(PlayerDialogs, TheSelectedPlayerCannotBeDeleted) {
@@ -55,45 +47,6 @@ TEST_F(PlayerDialogs, TheSelectedPlayerCannotBeDeleted) {
     EXPECT_FALSE(Enabled(dialog, "cmdDelete"));
     QTest::keyClick(list, Qt::Key_Up);
     EXPECT_TRUE(Enabled(dialog, "cmdDelete"));
-}
-
-TEST_F(PlayerDialogs, ADeleteGoesThroughItsQuestion) {
-    gScore->AddScore(0);
-    frmPlayers dialog;
-    Open(dialog);
-    auto* list = Find<QTreeView>(dialog, "lvPlayer");
-    for (const bool yes : {false, true}) {
-        layer_.Forms.Answer = yes;
-        ClickRow(list, list->model()->index(1, 0));
-        Click(dialog, "cmdDelete");
-        EXPECT_EQ(list->model()->rowCount(), yes ? 2 : 3);
-        EXPECT_EQ(Selected(list), yes ? "Player1" : "Ann") << "a deletion comes back on the current player";
-        EXPECT_EQ(Enabled(dialog, "cmdDelete"), !yes);
-    }
-    EXPECT_THAT(Rows(list), ElementsAre("Player1", "Bob"));
-    EXPECT_THAT(layer_.Forms.Questions, ElementsAre("Are you sure you want to delete this player",
-                                                    "Are you sure you want to delete this player"));
-}
-
-TEST_F(PlayerDialogs, NewAndEditGoThroughTheNameDialog) {
-    frmPlayers dialog;
-    Open(dialog);
-    auto* list = Find<QTreeView>(dialog, "lvPlayer");
-    EnterName(dialog, "cmdAdd", QStringLiteral("Zoë"));
-    EXPECT_THAT(Rows(list), ElementsAre("Player1", "Ann", "Bob", "Zoë"));
-    EXPECT_EQ(Selected(list), "Player1") << "a new player is not selected";
-    EXPECT_EQ(gData->CurPlayer(), "Player1");
-    EnterName(dialog, "cmdEdit", QStringLiteral("First"));
-    EXPECT_THAT(Rows(list), ElementsAre("First", "Ann", "Bob", "Zoë"));
-    EXPECT_EQ(Selected(list), "First");
-    EXPECT_EQ(gData->CurPlayer(), "First");
-    OnModal([](QWidget& input) {
-        Find<QLineEdit>(input, "Text1")->setText(QStringLiteral("Nobody"));
-        Click(input, "CancelButton");
-    });
-    Click(dialog, "cmdEdit");
-    EXPECT_EQ(gData->CurPlayer(), "First");
-    EXPECT_THAT(layer_.Forms.Messages, IsEmpty());
 }
 
 TEST_F(PlayerDialogs, TheNameDialogRefusesAndStaysOpen) {
@@ -133,15 +86,6 @@ TEST_F(PlayerDialogs, TheNameDialogRefusesAndStaysOpen) {
         gData->SetPlayer(2, "Ann", false);
         gData->SetPlayer(4, "", false);
     }
-}
-
-TEST_F(PlayerDialogs, TheTwentyFirstPlayerMeetsAMessageBeforeAnyDialog) {
-    for (int i = 4; i <= 20; ++i) gData->SetPlayer(i, "P" + std::to_string(i), false);
-    frmPlayers dialog;
-    Open(dialog);
-    Click(dialog, "cmdAdd");  // a name dialog would wait here for ever
-    EXPECT_THAT(layer_.Forms.Messages, ElementsAre("Maximum 20 Players Only!"));
-    EXPECT_TRUE(dialog.isVisible());
 }
 
 TEST_F(PlayerDialogs, SelectMakesCurrentAndLeavesTheGameRunning) {

@@ -165,29 +165,6 @@ TEST_F(ScoreDialogs, ANewRecordShowsFromTheEndOfItsGame) {
     EXPECT_EQ(gScore->ScoreTop(), 0) << "the store is closed with its view";
 }
 
-TEST_F(ScoreDialogs, AViewOverAnotherLeavesItTheStore) {
-    const LoadedScores outer;
-    {
-        const frmHighScore inner;
-        Add("Ann", R"("2004-01-01 09:00:00","Yukon",5,1,1,1,1)");
-    }
-    EXPECT_EQ(gScore->ScoreTop(), 4);
-    { const frmLogStat inner; }
-    EXPECT_EQ(gScore->ScoreTop(), 5) << "the later view read the files anew";
-}
-
-TEST_F(ScoreDialogs, UnreadableLinesAreToldOnce) {
-    Add("Ann", "rubbish");
-    for (int opening = 0; opening < 2; ++opening) {
-        const frmLogStat log;
-        const frmHighScore scores;
-        EXPECT_EQ(Column(log, "lvLog", "Player").size(), 4u);
-    }
-    EXPECT_THAT(layer_.Forms.Messages,
-                ElementsAre("1 line of Ann's records could not be read and was left out.\n" +
-                            cScore::FileName("Ann")));
-}
-
 TEST_F(ScoreDialogs, ColumnsHaveRoomForHeadingsAndValuesInAnyFont) {
     gData->SetPlayer(2, "A player's name of some length", true);
     for (int i = 1; i <= gData->TotalGames(); ++i) {

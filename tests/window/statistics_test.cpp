@@ -143,12 +143,6 @@ TEST_F(Statistics, WithoutRecordsEveryTabShowsZeros) {
     }
 }
 
-TEST_F(Statistics, UnreadableLinesAreToldOnce) {
-    layer_.Files.Contents[cScore::FileName("Player1")] = "\"2004-01-01 10:00:00\",\"Klond\r\n";
-    for (int i = 0; i < 2; ++i) const frmGameStat dialog;
-    EXPECT_THAT(layer_.Forms.Messages, ElementsAre(StartsWith("1 line of Player1's records")));
-}
-
 TEST_F(Statistics, TheSessionFollowsTheRunningGame) {
     mGen::StartGame("Klondike", 1.0);
     SessionFigures& figures = gData->Figures;
@@ -202,40 +196,6 @@ TEST_F(Statistics, TheSessionFollowsTheRunningGame) {
     Click(dialog, "cmdRefresh");
     EXPECT_THAT(Chart(dialog, "chChart"),
                 testing::EndsWith("Score 520, Moves " + std::to_string(figures.CurMoves) + ", Time 0:01:02"));
-}
-
-TEST_F(Statistics, AnEmptySessionStandsStill) {
-    frmSesStat dialog;
-    Open(dialog);
-    Find<QTabWidget>(dialog, "SSTab1")->setCurrentIndex(1);
-    for (const char* list : {"lvSession", "lvSesChart"}) {
-        EXPECT_EQ(Find<QTableView>(dialog, list)->model()->rowCount(), 0);
-    }
-    EXPECT_EQ(Chart(dialog, "chChart"), "No games");
-    Click(dialog, "cmdRefresh");
-    EXPECT_EQ(Chart(dialog, "chChart"), "No games");
-    Click(dialog, "cmdClose");
-    EXPECT_FALSE(dialog.isVisible());
-}
-
-TEST_F(Statistics, OpenFromTheirButtonsAndMenus) {
-    std::vector<std::string> opened;
-    const auto expect = [&] {
-        OnModal([&](QWidget& dialog) { opened.push_back(dialog.objectName().toStdString()); });
-    };
-    frmSelect select;
-    Open(select);
-    expect();
-    Click(select, "cmdStat");
-    EXPECT_TRUE(select.isVisible());
-    select.close();
-
-    frmMain window;
-    for (const char* entry : {"mStat1", "mStat2"}) {
-        expect();
-        window.findChild<QAction*>(QLatin1String(entry))->trigger();
-    }
-    EXPECT_THAT(opened, ElementsAre("frmGameStat", "frmGameStat", "frmSesStat"));
 }
 
 }  // namespace

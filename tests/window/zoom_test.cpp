@@ -174,21 +174,6 @@ TEST_F(Zoom, AFittedGameKeepsPilesThatGrowInSight) {
     EXPECT_EQ(Seen(), before);
 }
 
-TEST_F(Zoom, EveryGameHasRoomAndStaysReadable) {
-    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) {
-        const std::string& game = gData->GetGame(SiD);
-        const cPlate dealt = mTablePicture::OpeningDeal(game, 1.0);
-        mGen::SetGameRules(game);
-        const mRoom::Area room = mRoom::OfGame(dealt);
-        EXPECT_EQ(room.Around(mRoom::Taken(dealt), 1), room) << game;
-        const double fitted = mZoom::Fit(room, 1280, 800, 1.25);
-        EXPECT_GE(fitted, 1.4) << game;
-        EXPECT_LE(room.Bottom * fitted / mZoom::TwipsPerPixel, 800) << game;
-        const double cardPixels = fitted * 71 * 1.25;
-        EXPECT_NEAR(cardPixels, std::round(cardPixels), 1e-6) << game;
-    }
-}
-
 TEST_F(Zoom, TheMenuComesWhereNoCardTakesThePress) {
     mGen::StartGame("Klondike", 1.0);
     const MarkRecord& waste = PicBack.Mark(MarkKind::Waste, 0);
