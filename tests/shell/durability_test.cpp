@@ -336,27 +336,4 @@ TEST_F(Durability, AFullDiskKeepsTheOldFileAndTheNewRecord) {
     EXPECT_THAT(Numbers(), ElementsAre(1, 2, 3));
 }
 
-TEST_F(Durability, AFolderWithoutRightsKeepsTheOldFileAndTheNewRecord) {
-    const std::string folder = Folder();
-    EXPECT_TRUE(InChild([&] {
-        if (!ObeyRights()) return false;
-        const Program program;
-        Program::Record(1);
-        const std::string before = Content();
-        ::chmod(path_.c_str(), 0444);
-        ::chmod(folder.c_str(), 0555);
-        Program::Record(2);
-        ExpectKept(program, "Permission denied");
-        EXPECT_EQ(Content(), before);
-        ::chmod(path_.c_str(), 0644);
-        ::chmod(folder.c_str(), 0755);
-        // Opening a view is a try, too.
-        gScore->OpenAllScore();
-        EXPECT_EQ(gScore->ScoreTop(), 2);
-        EXPECT_THAT(program.Messages(), SizeIs(1));
-        return !testing::Test::HasFailure();
-    }));
-    EXPECT_THAT(Numbers(), ElementsAre(1, 2));
-}
-
 }  // namespace

@@ -84,34 +84,6 @@ TEST_F(Files, AppendsWholeLinesAfterWhateverTheFileEndsIn) {
     EXPECT_EQ(Content(Path("new")), "first\r\n");
 }
 
-TEST_F(Files, ManyWritersLoseAndMixNothing) {
-    constexpr int Writers = 4;
-    constexpr int Lines = 50;
-    const std::string path = Path("shared.sre");
-    std::array<pid_t, Writers> children{};
-    for (int writer = 0; writer < Writers; ++writer) {
-        children[static_cast<std::size_t>(writer)] = ::fork();
-        if (children[static_cast<std::size_t>(writer)] != 0) continue;
-        bool good = true;
-        const std::string line(200, static_cast<char>('a' + writer));
-        for (int i = 0; i < Lines; ++i) good = !files_.AppendLines(path, {line, line}) && good;
-        ::_exit(good ? 0 : 1);
-    }
-    for (const pid_t child : children) {
-        int status = 0;
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
-        EXPECT_EQ(status, 0);
-    }
-    std::ifstream file(path, std::ios::binary);
-    std::array<int, Writers> seen{};
-    for (std::string line; std::getline(file, line);) {
-        ASSERT_EQ(line.size(), 201u);
-        ASSERT_EQ(line, std::string(200, line[0]) + '\r');
-        ++seen.at(static_cast<std::size_t>(line[0] - 'a'));
-    }
-    EXPECT_THAT(seen, testing::Each(2 * Lines));
-}
-
 TEST_F(Files, AShortWriteLeavesTheFileAsItWas) {
     struct Row {
         const char* Says;

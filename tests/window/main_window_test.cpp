@@ -59,19 +59,6 @@ TEST_F(MainWindow, ADragThatEndsOutsideTheWindowReturns) {
     EXPECT_FALSE(gDrag.gPicked);
 }
 
-TEST_F(MainWindow, ACommandDuringADragPutsTheCardBackFirst) {
-    DealOne();
-    const QPoint grip = IndexOf(FittingCard);
-    QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, grip);
-    MoveMouse(grip + QPoint(50, 90), Qt::LeftButton);
-    mMain::Undo(0);
-    EXPECT_EQ(mFunc::CardCell(FittingCard), Stock);
-    QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, grip);
-    EXPECT_EQ(mFunc::CardCell(FittingCard), Stock);
-    EXPECT_EQ(PlaceOf(FittingCard), std::make_pair(gGames->GetCordX(Stock, 0, mFunc::CardPos(FittingCard)),
-                                                   gGames->GetCordY(Stock, 0, mFunc::CardPos(FittingCard))));
-}
-
 TEST_F(MainWindow, CommandsAreEnabledAsTheGameStands) {
     struct Row {
         const char* Entry;
