@@ -213,4 +213,14 @@ TEST(Session, ShowsEndedGamesAndTheRunningOne) {
     figures.GameRunning = false;
 }
 
+TEST(Statistics, GamesAreSortedWithoutRegardToCapitals) {
+    const Records records;
+    const auto names = mStatistics::SortedGames();
+    ASSERT_THAT(names, SizeIs(static_cast<std::size_t>(gData->TotalGames())));
+    EXPECT_TRUE(
+        std::is_sorted(names.begin(), names.end(), [](const std::string& left, const std::string& right) {
+            return ::strcasecmp(left.c_str(), right.c_str()) < 0;
+        }));
+}
+
 }  // namespace
