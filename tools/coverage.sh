@@ -4,10 +4,9 @@
 set -euo pipefail
 # shellcheck source=setup/setup.sh
 . "$(dirname "$0")/setup/setup.sh"
-. tools/setup/tests.sh
 
 ensure_packages play check
 build coverage
 find build/coverage -name '*.gcda' -delete
-run_tests coverage -E 'endtoend|Window|Dialogs' >build/coverage/tests.log || fail "see build/coverage/tests.log"
+build/coverage/tarnival-tests >build/coverage/tests.log || fail "see build/coverage/tests.log"
 python3 tools/setup/coverage.py build/coverage

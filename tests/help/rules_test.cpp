@@ -25,6 +25,7 @@
 #include "support/Columns.h"
 #include "support/Fixture.h"
 #include "support/Hash.h"
+#include "support/Hash.h"
 #include "support/RandomPlayer.h"
 #include "table/cPlate.h"
 
@@ -227,6 +228,13 @@ void CheckTags(const std::string& html, const std::string& where) {
     EXPECT_FALSE(std::regex_search(html, bare)) << where;
     static const std::regex hollow(R"(<(p|li|h1|h2|ul)>\s*</)");
     EXPECT_FALSE(std::regex_search(html, hollow)) << where;
+}
+
+// The sentences of all pages in one number. Whoever changes some on purpose reads the pages that they stand on.
+TEST_F(Rules, NoSentenceChangesUnseen) {
+    Hash hash;
+    for (const int id : mRules::AllGames()) hash.Fold(mRules::PlainText(*mRules::Find(id)));
+    EXPECT_EQ(hash.Value(), 11358236301868285888U);
 }
 
 TEST_F(Rules, PagesAreWholeAndTheirLinksLeadSomewhere) {
