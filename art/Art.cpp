@@ -1,6 +1,9 @@
 // Rendering of the picture resources.
 #include "Art.h"
 
+#include <map>
+#include <memory>
+
 #include <QFile>
 #include <QPainter>
 #include <QResource>
@@ -10,7 +13,18 @@ namespace Art {
 
 namespace {
 
-QString Resource(const QString& name) { return QStringLiteral(":/%1.svg").arg(name); }
+// Read once: that takes about as long as rendering it, which a preview or the zoom does in ever new sizes.
+// Null where there is no picture of that name.
+QSvgRenderer* Read(const QString& name) {
+    static std::map<QString, std::unique_ptr<QSvgRenderer>> pictures;
+    std::unique_ptr<QSvgRenderer>& picture = pictures[name];
+    if (!picture) {
+        const QString file = QStringLiteral(":/%1.svg").arg(name);
+        if (!QFile::exists(file)) return nullptr;
+        picture = std::make_unique<QSvgRenderer>(file);
+    }
+    return picture.get();
+}
 
 QImage Rendered(QSvgRenderer& renderer, const QSize& size) {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
@@ -24,16 +38,15 @@ QImage Rendered(QSvgRenderer& renderer, const QSize& size) {
 }  // namespace
 
 QImage Picture(const QString& name, double scale) {
-    if (!QFile::exists(Resource(name))) return {};
-    QSvgRenderer renderer(Resource(name));
-    const QSizeF size = renderer.viewBoxF().size() * scale;
-    return Rendered(renderer, QSize(qRound(size.width()), qRound(size.height())));
+    QSvgRenderer* picture = Read(name);
+    if (!picture) return {};
+    const QSizeF size = picture->viewBoxF().size() * scale;
+    return Rendered(*picture, QSize(qRound(size.width()), qRound(size.height())));
 }
 
 QImage Picture(const QString& name, const QSize& size) {
-    if (!QFile::exists(Resource(name))) return {};
-    QSvgRenderer renderer(Resource(name));
-    return Rendered(renderer, size);
+    QSvgRenderer* picture = Read(name);
+    return picture ? Rendered(*picture, size) : QImage();
 }
 
 QImage Splash(const QSize& size) {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # All figures that the program has promised itself, as one table with their limits. Builds what it needs, and
-# fails when a figure is missed by more than a quarter. Ten minutes on two cores; let the machine rest meanwhile.
+# fails when a figure is missed by more than a quarter. Two minutes when it is built; let the machine rest meanwhile.
 set -euo pipefail
 # shellcheck source=tools/setup/setup.sh
 . "$(dirname "$0")/../tools/setup/setup.sh"
