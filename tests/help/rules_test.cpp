@@ -25,7 +25,6 @@
 #include "support/Columns.h"
 #include "support/Fixture.h"
 #include "support/Hash.h"
-#include "support/Hash.h"
 #include "support/RandomPlayer.h"
 #include "table/cPlate.h"
 
@@ -230,7 +229,8 @@ void CheckTags(const std::string& html, const std::string& where) {
     EXPECT_FALSE(std::regex_search(html, hollow)) << where;
 }
 
-// The sentences of all pages in one number. Whoever changes some on purpose reads the pages that they stand on.
+// The sentences of all pages in one number. Whoever changes some on purpose reads the pages that they stand
+// on.
 TEST_F(Rules, NoSentenceChangesUnseen) {
     Hash hash;
     for (const int id : mRules::AllGames()) hash.Fold(mRules::PlainText(*mRules::Find(id)));
