@@ -33,7 +33,7 @@ QImage DealPicture(int gameID, double pixelRatio) {
     const cPlate plate = mTablePicture::OpeningDeal(name, mTablePicture::FirstDeal);
     const QRectF area = mTablePicture::Extent(plate).adjusted(-Border, -Border, Border, Border);
     const double scale = Width / (area.width() / DesignPixel);
-    QImage image = mTablePicture::Draw(plate, area, std::min(scale, 1.0) * pixelRatio);
+    QImage image = mTablePicture::Draw(plate, area, std::min(scale, 1.0) * pixelRatio, pixelRatio);
     image.setDevicePixelRatio(pixelRatio);
     return image;
 }

@@ -2,6 +2,8 @@
 #include "shell/mTablePicture.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 #include <vector>
 
 #include <QPainter>
@@ -27,6 +29,13 @@ void ForEachMark(const cPlate& plate, Use use) {
     }
 }
 
+enum class Pictures { Face, Back, Mark };
+
+QPixmap PictureOf(Pictures kind, int number, double scale) {
+    if (kind == Pictures::Mark) return mPictures::RightPic(number, scale);
+    return kind == Pictures::Back ? mPictures::GetPic(number, scale) : mPictures::MainPic(number, scale);
+}
+
 // The visible cards from the back to the front.
 std::vector<const CardRecord*> CardsInOrder(const cPlate& plate) {
     std::vector<const CardRecord*> cards;
@@ -44,7 +53,7 @@ QRectF Extent(const cPlate& plate) {
     return {QPointF(taken.Left, taken.Top), QPointF(taken.Right, taken.Bottom)};
 }
 
-QImage Draw(const cPlate& plate, const QRectF& area, double scale) {
+QImage Draw(const cPlate& plate, const QRectF& area, double scale, double ready) {
     const double unit = scale / mPictures::TwipsPerPixel;
     QImage image((area.size() * unit).toSize(), QImage::Format_RGB32);
     QPainter painter(&image);
@@ -58,13 +67,24 @@ QImage Draw(const cPlate& plate, const QRectF& area, double scale) {
         mPictures::DrawAtWholePixels(painter, picture);
         painter.restore();
     };
+    std::map<std::pair<Pictures, int>, QPixmap> small;
+    const auto picture = [&](Pictures kind, int number) {
+        if (2 * scale > ready) return PictureOf(kind, number, scale);
+        QPixmap& found = small[{kind, number}];
+        if (found.isNull()) {
+            const QPixmap large = PictureOf(kind, number, ready);
+            found = large.scaled((QSizeF(large.size()) * scale / ready).toSize(), Qt::IgnoreAspectRatio,
+                                 Qt::SmoothTransformation);
+        }
+        return found;
+    };
     ForEachMark(plate, [&](const MarkRecord& mark) {
-        place(mark.Left, mark.Top, mPictures::RightPic(mark.Picture, scale));
+        place(mark.Left, mark.Top, picture(Pictures::Mark, mark.Picture));
     });
     for (const CardRecord* card : CardsInOrder(plate)) {
         place(card->Left, card->Top,
-              card->FaceMode == 1 ? mPictures::GetPic(card->DeckPic, scale)
-                                  : mPictures::MainPic(card->MainPic, scale));
+              card->FaceMode == 1 ? picture(Pictures::Back, card->DeckPic)
+                                  : picture(Pictures::Face, card->MainPic));
     }
     return image;
 }
@@ -86,7 +106,7 @@ QImage Preview(const std::string& game, const QSize& size, double pixelRatio) {
     // What is left lies on both sides, and below, where the fans will grow.
     QRectF area(cards.topLeft(), room / scale);
     area.moveLeft(cards.center().x() - area.width() / 2);
-    QImage image = Draw(plate, area, scale * pixelRatio);
+    QImage image = Draw(plate, area, scale * pixelRatio, pixelRatio);
     image.setDevicePixelRatio(pixelRatio);
     return image;
 }
