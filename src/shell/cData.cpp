@@ -100,6 +100,7 @@ int cData::Get(const NumberSetting& setting) const {
 
 void cData::Set(const std::vector<NumberValue>& values) {
     std::vector<SettingValue> texts;
+    texts.reserve(values.size());
     for (const auto& [setting, value] : values) {
         texts.push_back({setting.Section, setting.Key, std::to_string(value)});
     }
