@@ -208,6 +208,7 @@ def check_pages(reader, game, window):
 def show_menu(reader, game, menu, entry):
     game.screen.xdotool("mousemove", *reader.middle(menu), "click", 1)
     wait(f"the menu with {entry.get_name()}", lambda: "showing" in reader.states(entry))
+    game.screen.settle(0.15)  # only then do all entries lie where they are drawn
 
 
 def open_window(reader, game, program, thing):
