@@ -205,16 +205,23 @@ def check_pages(reader, game, window):
         reach(reader, game, window)
 
 
-def show_menu(reader, game, menu, entry):
+def point_at(reader, game, menu, entry):
+    """Opens the menu and brings the pointer to its entry, which lies still only once the menu is drawn."""
     game.screen.xdotool("mousemove", *reader.middle(menu), "click", 1)
     wait(f"the menu with {entry.get_name()}", lambda: "showing" in reader.states(entry))
-    game.screen.settle(0.15)  # only then do all entries lie where they are drawn
+
+    def lit():
+        game.screen.xdotool("mousemove", *reader.middle(entry))
+        game.screen.settle(0.1)
+        return "focused" in reader.states(entry)
+    wait(f"{entry.get_name()} under the pointer", lit)
 
 
 def open_window(reader, game, program, thing):
-    """Clicks on something that opens a window; the window, active."""
+    """Clicks on something that opens a window, or where the pointer is; the window, active."""
     before = window_in_front(reader, program)
-    game.screen.xdotool("mousemove", *reader.middle(thing), "click", 1)
+    place = ("mousemove", *reader.middle(thing)) if thing.get_role_name() == "push button" else ()
+    game.screen.xdotool(*place, "click", 1)
 
     def opened():
         window = window_in_front(reader, program)
@@ -240,7 +247,7 @@ def read_dialogs(reader, game, program):
             if entry.get_name() in COMMANDS or "enabled" not in reader.states(entry) or not entry.get_name():
                 continue
             try:
-                show_menu(reader, game, menu, entry)
+                point_at(reader, game, menu, entry)
                 window = open_window(reader, game, program, entry)
                 check_pages(reader, game, window)
                 if entry.get_name() == "Players":
@@ -270,8 +277,8 @@ def listen(screen, program_file, lab, moves_file):
                 raise Failure("too few dialogs opened")
             toolbar = named(program, "Toolbar", "tool bar")
             entry = named(program, "View Toolbar")
-            show_menu(reader, game, entry.get_parent().get_parent(), entry)
-            game.screen.xdotool("mousemove", *reader.middle(entry), "click", 1)
+            point_at(reader, game, entry.get_parent().get_parent(), entry)
+            screen.xdotool("click", 1)
             wait("no toolbar", lambda: "showing" not in reader.states(toolbar))
             deal(game, moves[0].split()[-1])
             play_and_read(reader, game, program, driver, moves)

@@ -163,8 +163,11 @@ class Game:
 
 
 def run(test, *arguments):
-    """Runs a test on a screen of its own. It says what it has seen, or fails. Ends this process."""
+    """Runs a test on a screen and with files of its own. It says what it has seen, or fails. Ends this process."""
     name = os.path.basename(sys.argv[0])
+    home = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
+    for variable in ("HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"):
+        os.environ[variable] = home.name
     screen = Screen()
     try:
         print(f"{name}: {test(screen, *arguments)}")
@@ -172,3 +175,4 @@ def run(test, *arguments):
         sys.exit(f"{name}: {failure}")
     finally:
         screen.close()
+        home.cleanup()
