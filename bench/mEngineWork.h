@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "state/mGen.h"
-#include "support/RandomPlayer.h"
+#include "tools/RandomPlayer.h"
 
 namespace mEngineWork {
 

@@ -11,10 +11,10 @@
 #include "state/cArray.h"
 #include "state/cTrans.h"
 #include "state/mGen.h"
-#include "support/Checks.h"
 #include "support/Fixture.h"
-#include "support/RandomPlayer.h"
 #include "table/mMain.h"
+#include "tools/RandomPlayer.h"
+#include "tools/mChecks.h"
 
 namespace {
 

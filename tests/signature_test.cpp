@@ -16,9 +16,9 @@
 #include "state/mGen.h"
 #include "support/Fixture.h"
 #include "support/Hash.h"
-#include "support/RandomPlayer.h"
 #include "table/cPlate.h"
 #include "table/mMain.h"
+#include "tools/RandomPlayer.h"
 
 namespace {
 
@@ -34,14 +34,10 @@ void FoldPosition(Hash& hash) {
             hash.Fold(value);
         }
     }
-    for (const MarkKind kind :
-         {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste, MarkKind::Stock}) {
-        for (int i = 0; i < cPlate::MarkCount(kind); ++i) {
-            const MarkRecord& mark = PicBack.Mark(kind, i);
-            for (const int value : {mark.Visible ? 1 : 0, mark.Left, mark.Top, mark.Picture})
-                hash.Fold(value);
-        }
-    }
+    cPlate::ForEachMark([&](MarkKind kind, int index) {
+        const MarkRecord& mark = PicBack.Mark(kind, index);
+        for (const int value : {mark.Visible ? 1 : 0, mark.Left, mark.Top, mark.Picture}) hash.Fold(value);
+    });
 }
 
 // A card and where to; a press on the stock or a click on its mark have no card.

@@ -1,5 +1,5 @@
 // The random player's actions. All come in where the window's events come in.
-#include "support/RandomPlayer.h"
+#include "tools/RandomPlayer.h"
 
 #include <array>
 

@@ -25,10 +25,10 @@
 #include "shell/cData.h"
 #include "state/mGen.h"
 #include "state/mLoad.h"
-#include "support/Checks.h"
-#include "support/RandomPlayer.h"
 #include "table/mMain.h"
 #include "table/memorylayer.h"
+#include "tools/RandomPlayer.h"
+#include "tools/mChecks.h"
 
 namespace {
 

@@ -79,10 +79,7 @@ void HideAll() {
         PicBack.SetLoc(PicID, 0, 0, 0);
         PicBack.SetValue(PicID, 0, 0, 0);
     }
-    for (const MarkKind kind :
-         {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste, MarkKind::Stock}) {
-        for (int i = 0; i < cPlate::MarkCount(kind); ++i) PicBack.HideMark(kind, i);
-    }
+    cPlate::ForEachMark([](MarkKind kind, int index) { PicBack.HideMark(kind, index); });
 }
 
 void DealGoal() {

@@ -17,18 +17,6 @@ namespace mTablePicture {
 
 namespace {
 
-constexpr MarkKind Kinds[] = {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste,
-                              MarkKind::Stock};
-
-template <typename Use>
-void ForEachMark(const cPlate& plate, Use use) {
-    for (const MarkKind kind : Kinds) {
-        for (int i = 0; i < cPlate::MarkCount(kind); ++i) {
-            if (plate.Mark(kind, i).Visible) use(plate.Mark(kind, i));
-        }
-    }
-}
-
 enum class Pictures { Face, Back, Mark };
 
 QPixmap PictureOf(Pictures kind, int number, double scale) {
@@ -78,8 +66,9 @@ QImage Draw(const cPlate& plate, const QRectF& area, double scale, double ready)
         }
         return found;
     };
-    ForEachMark(plate, [&](const MarkRecord& mark) {
-        place(mark.Left, mark.Top, picture(Pictures::Mark, mark.Picture));
+    cPlate::ForEachMark([&](MarkKind kind, int index) {
+        const MarkRecord& mark = plate.Mark(kind, index);
+        if (mark.Visible) place(mark.Left, mark.Top, picture(Pictures::Mark, mark.Picture));
     });
     for (const CardRecord* card : CardsInOrder(plate)) {
         place(card->Left, card->Top,

@@ -37,14 +37,11 @@ TableView::TableView(QWidget* parent) : QGraphicsView(parent) {
         cards_[static_cast<std::size_t>(PicID)] = new KelCard(PicID);
         scene_.addItem(cards_[static_cast<std::size_t>(PicID)]);
     }
-    for (const MarkKind kind :
-         {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste, MarkKind::Stock}) {
-        for (int i = 0; i < cPlate::MarkCount(kind); ++i) {
-            auto* mark = new KelEmpty(kind, i);
-            marks_[static_cast<std::size_t>(kind)].push_back(mark);
-            scene_.addItem(mark);
-        }
-    }
+    cPlate::ForEachMark([this](MarkKind kind, int index) {
+        auto* mark = new KelEmpty(kind, index);
+        marks_[static_cast<std::size_t>(kind)].push_back(mark);
+        scene_.addItem(mark);
+    });
     QAccessible::installFactory(TableAccess::Make);
     tellDue_.setSingleShot(true);
     connect(&tellDue_, &QTimer::timeout, this, &TableView::TellChanges);

@@ -133,8 +133,5 @@ void cPlate::Republish() {
         stage_->CardRaised(PicID);
         stage_->CardShown(PicID);
     }
-    for (const MarkKind kind :
-         {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste, MarkKind::Stock}) {
-        for (int i = 0; i < MarkCount(kind); ++i) stage_->MarkChanged(kind, i);
-    }
+    ForEachMark([this](MarkKind kind, int index) { stage_->MarkChanged(kind, index); });
 }

@@ -62,6 +62,14 @@ public:
     [[nodiscard]] const MarkRecord& Mark(MarkKind kind, int index) const;
     /// How many marks of that kind exist: 18, 8, 10, 1, 1.
     [[nodiscard]] static int MarkCount(MarkKind kind);
+    /// Calls use(kind, index) for every mark, shown or not.
+    template <typename Use>
+    static void ForEachMark(Use use) {
+        for (const MarkKind kind :
+             {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste, MarkKind::Stock}) {
+            for (int i = 0; i < MarkCount(kind); ++i) use(kind, i);
+        }
+    }
 
     void SetValue(int PicID, int mSuit, int mNum, int mSuitPile);
     void SetLoc(int PicID, int Cell, int Pile, int Pos);

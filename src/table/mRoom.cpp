@@ -87,13 +87,10 @@ Area Taken(const cPlate& plate) {
         const CardRecord& card = plate.PicCards(PicID);
         if (card.Visible) area = area.With(CardAt({card.Left, card.Top}));
     }
-    for (const MarkKind kind :
-         {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste, MarkKind::Stock}) {
-        for (int i = 0; i < cPlate::MarkCount(kind); ++i) {
-            const MarkRecord& mark = plate.Mark(kind, i);
-            if (mark.Visible) area = area.With(CardAt({mark.Left, mark.Top}));
-        }
-    }
+    cPlate::ForEachMark([&](MarkKind kind, int index) {
+        const MarkRecord& mark = plate.Mark(kind, index);
+        if (mark.Visible) area = area.With(CardAt({mark.Left, mark.Top}));
+    });
     return area;
 }
 

@@ -11,10 +11,8 @@
 #include "state/cArray.h"
 #include "state/cGames.h"
 #include "state/mGen.h"
-#include "state/mLoad.h"
+#include "support/Fixture.h"
 #include "table/cPlate.h"
-#include "table/mMain.h"
-#include "table/memorylayer.h"
 
 namespace {
 
@@ -89,13 +87,10 @@ void ExpectAllOnPlate() {
         const CardRecord& card = PicBack.PicCards(PicID);
         EXPECT_TRUE(card.Visible && Box::OfCard({card.Left, card.Top}).OnPlate()) << "card " << PicID;
     }
-    for (const MarkKind kind :
-         {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste, MarkKind::Stock}) {
-        for (int i = 0; i < cPlate::MarkCount(kind); ++i) {
-            const MarkRecord& mark = PicBack.Mark(kind, i);
-            EXPECT_TRUE(!mark.Visible || Box::OfCard({mark.Left, mark.Top}).OnPlate()) << "mark " << i;
-        }
-    }
+    cPlate::ForEachMark([](MarkKind kind, int index) {
+        const MarkRecord& mark = PicBack.Mark(kind, index);
+        EXPECT_TRUE(!mark.Visible || Box::OfCard({mark.Left, mark.Top}).OnPlate()) << "mark " << index;
+    });
 }
 
 void ExpectApart(const std::vector<Pile>& piles) {
@@ -135,10 +130,7 @@ std::string Cramped(const std::vector<Pile>& piles) {
 }
 
 TEST(Layouts, EveryDealIsWellLaidOut) {
-    MemoryLayer layer;
-    mLoad::Main(layer.Layer());
-    mMain::Load();
-    ASSERT_GT(gData->TotalGames(), 0);
+    const Engine engine;
     std::set<std::string> cramped;
     for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) {
         const std::string name = gData->GetGame(SiD);
@@ -159,7 +151,6 @@ TEST(Layouts, EveryDealIsWellLaidOut) {
         }
     }
     EXPECT_EQ(cramped, lessRoom) << "games that need no exception";
-    mLoad::UnloadMain();
 }
 
 }  // namespace

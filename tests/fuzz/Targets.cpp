@@ -18,10 +18,10 @@
 #include "shell/mSelect.h"
 #include "state/mGen.h"
 #include "state/mLoad.h"
-#include "support/Checks.h"
 #include "support/Fixture.h"
 #include "table/mMain.h"
 #include "tools/Lab.h"
+#include "tools/mChecks.h"
 
 namespace {
 

@@ -26,24 +26,18 @@ TEST(ScoreLine, IsReadOrLeftOutAsAWhole) {
         {"a drawn number", R"("2004-01-05 22:10:33","Klondike",123,60,45,-7,0)"},
         {"a typed number", R"("2004-01-05 22:10:33","Klondike","123",60,45,100,1)"},
         {"a comma inside a text", R"("1/5/2004, 10 PM","A, B",1,2,3,4,1)"},
-        {"an unquoted name", R"(1/5/2004,Klondike,1,2,3,4,1)"},
         {"blanks around the commas", R"("d" , "g", 1 ,2, 3,4 ,1 )"},
         {"a typed text that is no number", R"("d","g","x",2,3,4,1)"},
-        {"an empty date", R"("","g",1,2,3,4,0)"},
         {"the ends of 32 bits", R"("d","g",1,2147483647,2147483647,-2147483648,1)"},
 
         {"cut off in the date", R"("2004-01-0)", false},
-        {"cut off in the name", R"("2004-01-05 22:10:33","Klon)", false},
-        {"cut off behind the name", R"("2004-01-05 22:10:33","Klondike")", false},
         {"cut off in the score", R"("2004-01-05 22:10:33","Klondike",123,60,45,10)", false},
         {"cut off before the result", R"("2004-01-05 22:10:33","Klondike",123,60,45,100,)", false},
         {"a torn line and a whole one", R"("2004-01-0"2004-01-05 22:10:33","Klondike",123,60,45,100,1)",
          false},
         {"eight fields", R"("d","g",1,2,3,4,1,1)", false},
         {"a number that is none", R"("d","g",12x,2,3,4,1)", false},
-        {"no number", R"("d","g",,2,3,4,1)", false},
         {"a time beyond 32 bits", R"("d","g",1,2147483648,3,4,1)", false},
-        {"a broken time", R"("d","g",1,1.5,3,4,1)", false},
         {"a result beyond 16 bits", R"("d","g",1,2,3,4,32768)", false},
         {"text behind a quote", R"("d"x,"g",1,2,3,4,1)", false},
         {"no record at all", "Score Board", false},
@@ -61,6 +55,8 @@ TEST(ScoreLine, IsReadOrLeftOutAsAWhole) {
     EXPECT_EQ(fields.GameNo.Text, "007");
     EXPECT_EQ((std::vector<int>{fields.Time, fields.Moves, fields.Score, fields.Won}),
               (std::vector<int>{2, 3, -4, 1}));
+    const tScore typed{.Date = "d", .gName = "g", .GameNo = std::string("1\",\"2\r\n3"), .Player = {}};
+    EXPECT_EQ(mScoreFile::ScoreLine(typed), "\"d\",\"g\",\"1','2  3\",0,0,0,0");
 }
 
 TEST(ScoreLine, ComesBackFromTheStoreAsItWasWritten) {
@@ -83,29 +79,15 @@ TEST(ScoreLine, ComesBackFromTheStoreAsItWasWritten) {
     }
 }
 
-TEST(ScoreLine, ATypedTextCannotBreakTheLine) {
-    const tScore record{.Date = "d", .gName = "g", .GameNo = std::string("1\",\"2\r\n3"), .Player = {}};
-    EXPECT_EQ(mScoreFile::ScoreLine(record), "\"d\",\"g\",\"1','2  3\",0,0,0,0");
-}
-
 TEST(FavLine, IsReadOrLeftOut) {
-    const std::vector<LineRow> rows = {
-        {"a drawn number", R"("Klondike",123)"},
-        {"a typed number", R"("Klondike","123")"},
-        {"cut off in the name", R"("Klond)", false},
-        {"no number", R"("Klondike")", false},
-        {"an empty number", R"("Klondike",)", false},
-        {"cut off in the number", R"("Klondike","12)", false},
-        {"too many fields", R"("Klondike",1,2)", false},
-    };
-    for (const LineRow& row : rows) {
-        SCOPED_TRACE(row.Says);
-        const auto favourite = mScoreFile::ParseFav(row.Line);
-        EXPECT_EQ(favourite.has_value(), row.Reads);
-        if (favourite) {
-            EXPECT_EQ(mScoreFile::FavLine(*favourite), row.Line);
-        }
+    for (const char* line : {R"("Klondike",123)", R"("Klondike","123")"}) {
+        const auto favourite = mScoreFile::ParseFav(line);
+        ASSERT_TRUE(favourite.has_value()) << line;
+        EXPECT_EQ(mScoreFile::FavLine(*favourite), line);
     }
+    for (const char* line :
+         {R"("Klond)", R"("Klondike")", R"("Klondike",)", R"("Klondike","12)", R"("Klondike",1,2)"})
+        EXPECT_FALSE(mScoreFile::ParseFav(line).has_value()) << line;
 }
 
 TEST(Lines, EndInAnyWay) {

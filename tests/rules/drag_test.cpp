@@ -1,6 +1,8 @@
 // The mouse flow: the grip, the group's steps, overlaps of two piles, the order of the scan, refused
 // drops, sounds.
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -47,15 +49,13 @@ TEST_F(Drag, TheCardKeepsTheGripOfThePress) {
 }
 
 TEST_F(Drag, AGroupTrailsByConstantSteps) {
-    struct Row {
-        PileOrder Order;
-        Point Step;
-    };
-    for (const Row& row :
-         {Row{PileOrder::AcrossFanDown, {0, 250}}, Row{PileOrder::AcrossFanDownWide, {0, 250}},
-          Row{PileOrder::AcrossFanRight, {180, 0}}, Row{PileOrder::DownFanRight, {180, 0}}}) {
-        SCOPED_TRACE(Number(row.Order));
-        game_.Home.PileOrder = row.Order;
+    const std::pair<PileOrder, Point> rows[] = {{PileOrder::AcrossFanDown, {0, 250}},
+                                                {PileOrder::AcrossFanDownWide, {0, 250}},
+                                                {PileOrder::AcrossFanRight, {180, 0}},
+                                                {PileOrder::DownFanRight, {180, 0}}};
+    for (const auto& [order, step] : rows) {
+        SCOPED_TRACE(Number(order));
+        game_.Home.PileOrder = order;
         game_.Home.PosWidth = 77;
         mPosition::Begin(game_);
         mScript::Lay("H0 KH QS JD; H2 9C");
@@ -63,19 +63,19 @@ TEST_F(Drag, AGroupTrailsByConstantSteps) {
         const Point start = PlaceOf("KH");
         mMain::MouseDown(king, 10, 10);
         mMain::MouseMove(king, 510, 2010);
-        for (int i = 0; i < 3; ++i) {
-            const char* cards[] = {"KH", "QS", "JD"};
-            EXPECT_EQ(PlaceOf(cards[i]),
-                      (Point{start.X + 500 + i * row.Step.X, start.Y + 2000 + i * row.Step.Y}));
+        int front = PicBack.PicCards(Card("9C")).Order;
+        Point place{start.X + 500, start.Y + 2000};
+        for (const char* card : {"KH", "QS", "JD"}) {
+            EXPECT_EQ(PlaceOf(card), place);
+            place = {place.X + step.X, place.Y + step.Y};
+            EXPECT_LT(front, PicBack.PicCards(Card(card)).Order);
+            front = PicBack.PicCards(Card(card)).Order;
         }
-        EXPECT_LT(PicBack.PicCards(Card("9C")).Order, PicBack.PicCards(king).Order);
-        EXPECT_LT(PicBack.PicCards(king).Order, PicBack.PicCards(Card("QS")).Order);
-        EXPECT_LT(PicBack.PicCards(Card("QS")).Order, PicBack.PicCards(Card("JD")).Order);
         // Refused: back to the press, in the drag's steps and not in the pile's.
         mMain::MouseMove(king, -4000, 9000);
         mMain::MouseUp(king);
         EXPECT_EQ(PlaceOf("KH"), start);
-        EXPECT_EQ(PlaceOf("JD"), (Point{start.X + 2 * row.Step.X, start.Y + 2 * row.Step.Y}));
+        EXPECT_EQ(PlaceOf("JD"), (Point{start.X + 2 * step.X, start.Y + 2 * step.Y}));
         EXPECT_EQ(mPosition::Pile(Home, 0), "KH QS JD");
         EXPECT_EQ(gTrans->GetTransID(), 0);
     }
@@ -85,28 +85,21 @@ TEST_F(Drag, OverlapLooksAtTheCentreOrAtAnyPart) {
     mPosition::Begin({});
     mPosition::Lay(Home, 0, "9C");
     const int card = Card("9C");
-    // The place of pile 2, empty: one fan step above its first card.
-    const int left = FirstLeft + 2400;
+    const int left = FirstLeft + 2400;  // of pile 2
     const int top = FirstTop - 250;
-    struct Row {
-        int X, Y;
-        bool Centre, Part;
+    // The centre of a card is 532 right and 720 down of its corner where the left is even, as half twips go
+    // to the even neighbour.
+    enum Overlap { None, Part, Centre };
+    const std::tuple<int, int, Overlap> rows[] = {
+        {0, 0, Centre},   {533, 0, Part},   {532, 0, Centre},  {-531, 0, Centre}, {-532, 0, Part},
+        {0, 719, Centre}, {0, 720, Part},   {0, -719, Centre}, {0, -720, Part},   {1064, 0, Part},
+        {1065, 0, None},  {-1064, 0, Part}, {-1065, 0, None},  {0, 1439, Part},   {0, 1440, None},
+        {0, -1439, Part}, {0, -1440, None},
     };
-    // The centre of a card is 532 right and 720 down of its corner where the left is even, as
-    // half twips go to the even neighbour.
-    const Row rows[] = {
-        {left, top, true, true},          {left + 533, top, false, true},   {left + 532, top, true, true},
-        {left - 531, top, true, true},    {left - 532, top, false, true},   {left, top + 719, true, true},
-        {left, top + 720, false, true},   {left, top - 719, true, true},    {left, top - 720, false, true},
-        {left + 1064, top, false, true},  {left + 1065, top, false, false}, {left - 1064, top, false, true},
-        {left - 1065, top, false, false}, {left, top + 1439, false, true},  {left, top + 1440, false, false},
-        {left, top - 1439, false, true},  {left, top - 1440, false, false},
-    };
-    for (const Row& row : rows) {
-        PicBack.Move(card, row.X, row.Y);
-        EXPECT_EQ(mFunc::IsOverlap(card, Home, 2, -1, false), row.Centre)
-            << row.X - left << ", " << row.Y - top;
-        EXPECT_EQ(mFunc::IsOverlap(card, Home, 2, -1, true), row.Part) << row.X - left << ", " << row.Y - top;
+    for (const auto& [x, y, overlap] : rows) {
+        PicBack.Move(card, left + x, top + y);
+        EXPECT_EQ(mFunc::IsOverlap(card, Home, 2, -1, false), overlap == Centre) << x << ", " << y;
+        EXPECT_EQ(mFunc::IsOverlap(card, Home, 2, -1, true), overlap != None) << x << ", " << y;
     }
 }
 
@@ -114,29 +107,20 @@ TEST_F(Drag, OverlapOfTwoPiles) {
     struct Row {
         const char* Rule;
         const char* Table;
-        Point Release;  // left and top of the Queen of Spades
-        int Pile;       // where it lands
+        int X, Y;  // of the Queen of Spades where she is released, from the first pile's place
+        int Pile;  // where she lands
     };
     const Row rows[] = {
-        {"the centre decides before the lower pile",
-         "H0 2C QS; H1 KH; H2 KD",
-         {FirstLeft + 2000, FirstTop},
-         2},
-        {"the centre's pile refuses: the touched one",
-         "H0 2C QS; H1 KH; H2 5D",
-         {FirstLeft + 2000, FirstTop},
-         1},
-        {"both only touched: the lower one",
-         "H0 2C QS; H1 KH; H2 KD",
-         {FirstLeft + 1735, FirstTop + 1300},
-         1},
-        {"its own pile under the centre", "H0 2C QS; H1 KH", {FirstLeft + 400, FirstTop}, 1},
-        {"nothing fits", "H0 2C QS; H1 5H; H2 5D", {FirstLeft + 2000, FirstTop}, 0},
+        {"the centre decides before the lower pile", "H0 2C QS; H1 KH; H2 KD", 2000, 0, 2},
+        {"the centre's pile refuses: the touched one", "H0 2C QS; H1 KH; H2 5D", 2000, 0, 1},
+        {"both only touched: the lower one", "H0 2C QS; H1 KH; H2 KD", 1735, 1300, 1},
+        {"its own pile under the centre", "H0 2C QS; H1 KH", 400, 0, 1},
+        {"nothing fits", "H0 2C QS; H1 5H; H2 5D", 2000, 0, 0},
     };
     for (const Row& row : rows) {
         mPosition::Begin({});
         mScript::Lay(row.Table);
-        ASSERT_TRUE(mPosition::Drag(Card("QS"), row.Release.X, row.Release.Y));
+        ASSERT_TRUE(mPosition::Drag(Card("QS"), FirstLeft + row.X, FirstTop + row.Y));
         EXPECT_EQ(mFunc::CardPile(Card("QS")), row.Pile) << row.Rule;
     }
 }

@@ -1,6 +1,9 @@
 // Winning a game in every way, and what the end-of-game dialog starts afterwards: by then the chain of
 // moves that won must have ended, so that nothing of it touches the new deal.
 #include <string>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -11,10 +14,10 @@
 #include "state/cArray.h"
 #include "state/cTrans.h"
 #include "state/mGen.h"
-#include "support/Checks.h"
 #include "support/Script.h"
 #include "table/cPlate.h"
 #include "table/mMain.h"
+#include "tools/mChecks.h"
 
 namespace {
 
@@ -56,11 +59,6 @@ void WinByRedo() {
     mMain::Redo(0);
     EXPECT_TRUE(gData->Figures.GameRunning);
     mMain::Redo(0);
-}
-
-void WinByRedoAll() {
-    LogTheWinningMove();
-    mMain::RedoAll(0);
 }
 
 void WinByReplay() {
@@ -131,95 +129,75 @@ void ExpectFreshDeal() {
     EXPECT_EQ(mChecks::Difference(mChecks::Places(), found, [](int) { return false; }), "");
 }
 
-struct Win {
-    const char* Name;
-    void (*Play)();
+constexpr std::pair<const char*, void (*)()> Ways[] = {
+    {"drag", WinByDrag},
+    {"autoplay", WinByAutoplay},
+    {"redo", WinByRedo},
+    {"replay", WinByReplay},
+    {"autoplay switched on", WinBySwitchingAutoplayOn},
+    {"a complete run", WinByACompleteRun},
+    {"the stock", WinByTheStock},
+    {"the first autoplay pass", WinByTheFirstPass},
 };
 
-std::ostream& operator<<(std::ostream& out, const Win& win) { return out << win.Name; }
+void WinAndGoOn(MemoryForms& forms, void (*win)(), AfterGame choice) {
+    gData->SetCurGName("Canfield");  // the game of the position counts as this one
+    const int recorded = gScore->SesTop();
+    const int finished = forms.Finished;
+    const int selected = forms.SelectShown;
+    const cTrans* log = nullptr;
+    forms.Choice = choice;
+    forms.OnFinish = [&] {
+        // Behind the open dialog the timers go on.
+        log = gTrans.get();
+        EXPECT_FALSE(gData->Figures.GameRunning);
+        EXPECT_EQ(gScore->SesTop(), recorded + 1);
+        for (const std::string& text : mMain::TickTime()) EXPECT_EQ(text, "");
+        EXPECT_FALSE(mMain::UpdateMenus().Undo);
+        mMain::TickReplay();
+        mMain::Undo(0);
+        mMain::StockClick();
+        EXPECT_EQ(gTrans.get(), log);
+    };
+    win();
+    EXPECT_EQ(forms.Finished, finished + 1);
+    ASSERT_EQ(gScore->SesTop(), recorded + 1);
+    EXPECT_EQ(gScore->GetSes(recorded + 1).Won, 1);
+    EXPECT_EQ(forms.SelectShown - selected, choice == AfterGame::SelectGame ? 1 : 0);
+    if (choice == AfterGame::NewGame || choice == AfterGame::RestartGame) return ExpectFreshDeal();
+    EXPECT_FALSE(gData->Figures.GameRunning);
+    EXPECT_EQ(gTrans.get(), log) << "the log is kept until the next game";
+    EXPECT_FALSE(PicBack.PicCards(0).Visible);
+}
 
-class Winning : public testing::TestWithParam<Win> {
-protected:
-    // The game of the position counts as this one.
-    void SetUp() override { gData->SetCurGName("Canfield"); }
-    Engine engine_;
-};
-
-TEST_P(Winning, IsRecordedOnceAndTheNextGameIsWhole) {
-    MemoryForms& forms = engine_.Layer.Forms;
-    int round = 0;
-    for (const AfterGame choice :
-         {AfterGame::NewGame, AfterGame::RestartGame, AfterGame::SelectGame, AfterGame::Nothing}) {
-        SCOPED_TRACE(static_cast<int>(choice));
-        ++round;
-        if (gData->Figures.GameRunning) mMain::CloseGame();
-        const int recorded = gScore->SesTop();
-        const cTrans* log = nullptr;
-        forms.Choice = choice;
-        forms.OnFinish = [&] {
-            // Behind the open dialog the timers go on.
-            log = gTrans.get();
-            EXPECT_FALSE(gData->Figures.GameRunning);
-            EXPECT_EQ(gScore->SesTop(), recorded + 1);
-            for (const std::string& text : mMain::TickTime()) EXPECT_EQ(text, "");
-            EXPECT_FALSE(mMain::UpdateMenus().Undo);
-            mMain::TickReplay();
-            mMain::Undo(0);
-            mMain::StockClick();
-            EXPECT_EQ(gTrans.get(), log);
-        };
-        GetParam().Play();
-        EXPECT_EQ(forms.Finished, round);
-        ASSERT_EQ(gScore->SesTop(), recorded + 1);
-        EXPECT_EQ(gScore->GetSes(recorded + 1).Won, 1);
-        EXPECT_EQ(forms.SelectShown, choice == AfterGame::SelectGame || round > 3 ? 1 : 0);
-        if (choice == AfterGame::NewGame || choice == AfterGame::RestartGame) {
-            ExpectFreshDeal();
-        } else {
-            EXPECT_FALSE(gData->Figures.GameRunning);
-            EXPECT_EQ(gTrans.get(), log) << "the log is kept until the next game";
-            EXPECT_FALSE(PicBack.PicCards(0).Visible);
+TEST(Winning, IsRecordedOnceAndTheNextGameIsWhole) {
+    Engine engine;
+    for (const auto& [name, win] : Ways) {
+        for (const AfterGame choice :
+             {AfterGame::NewGame, AfterGame::RestartGame, AfterGame::SelectGame, AfterGame::Nothing}) {
+            SCOPED_TRACE(std::string(name) + ", then " + std::to_string(static_cast<int>(choice)));
+            if (gData->Figures.GameRunning) mMain::CloseGame();
+            WinAndGoOn(engine.Layer.Forms, win, choice);
         }
-        gData->SetCurGName("Canfield");
     }
 }
 
-constexpr Win Ways[] = {
-    {"ByDrag", WinByDrag},
-    {"ByAutoplay", WinByAutoplay},
-    {"ByRedo", WinByRedo},
-    {"ByRedoAll", WinByRedoAll},
-    {"ByReplay", WinByReplay},
-    {"BySwitchingAutoplayOn", WinBySwitchingAutoplayOn},
-    {"ByACompleteRun", WinByACompleteRun},
-    {"ByTheStock", WinByTheStock},
-    {"ByTheFirstPass", WinByTheFirstPass},
-};
-
-INSTANTIATE_TEST_SUITE_P(Ways, Winning, testing::ValuesIn(Ways),
-                         [](const auto& way) { return std::string(way.param.Name); });
-
 TEST(CardsToWin, IsWhatTheFoundationsHold) {
-    struct Row {
-        GameType Type;
-        int Piles;
-        int Deck;
-        int Cards;
+    const std::tuple<GameType, int, int, int> rows[] = {
+        // kind, foundations, deck, cards to win
+        {GameType::Plain, 4, 52, 52},       {GameType::Plain, 4, 104, 52},
+        {GameType::Plain, 2, 26, 26},       {GameType::CompleteRuns, 1, 104, 104},
+        {GameType::LimitedRuns, 2, 52, 26},
     };
     const Engine engine;
-    for (const Row& row : {Row{GameType::Plain, 4, 52, 52}, Row{GameType::Plain, 8, 104, 104},
-                           Row{GameType::Plain, 4, 104, 52}, Row{GameType::Plain, 2, 26, 26},
-                           Row{GameType::CompleteRuns, 1, 104, 104}, Row{GameType::LimitedRuns, 2, 52, 26}}) {
+    for (const auto& [kind, foundations, deck, cards] : rows) {
         TestGame game;
-        game.Ext.GameType = row.Type;
-        game.Ext.Cards = row.Deck;
-        game.Goal.Piles = row.Piles;
+        game.Ext.GameType = kind;
+        game.Ext.Cards = deck;
+        game.Goal.Piles = foundations;
         mPosition::Begin(game);
-        EXPECT_EQ(mGen::CardsToWin(), row.Cards);
+        EXPECT_EQ(mGen::CardsToWin(), cards);
     }
-    mGen::SetGameRules("Marathon");
-    EXPECT_LT(mGen::CardsToWin(), gGames->TotalCards());
-    EXPECT_EQ(mGen::CardsToWin(), 13 * gGames->Piles(Goal));
 }
 
 // The card that completes smaller foundations wins, and no card before it.

@@ -6,7 +6,6 @@
 
 #include "records/mPlayers.h"
 #include "shell/cData.h"
-#include "shell/mSelect.h"
 #include "support/Fixture.h"
 
 namespace {
@@ -62,16 +61,6 @@ TEST_F(Settings, RecentList) {
     gData->ClearRecent();
     EXPECT_EQ(gData->RecentCount(), 0);
     EXPECT_EQ(Stored("Recent/1"), "");
-}
-
-TEST_F(Settings, TypedNumbersAndTheirRange) {
-    EXPECT_EQ(mSelect::RangeText(), "0 and 999,999,999,999,999");
-    gData->Set(Setting::RangeIndex, 3);
-    EXPECT_EQ(mSelect::RangeText(), "0 and 999");
-    for (const char* good : {"1", "998", "12.5", " 7 "}) EXPECT_FALSE(mSelect::NumberFault(good)) << good;
-    for (const char* bad : {"", "x", "0", "-1", "999", "1000"}) {
-        EXPECT_EQ(mSelect::NumberFault(bad), "Please enter a number between 0 and 999") << bad;
-    }
 }
 
 TEST_F(Settings, SoundsPlayWhereTheyAreOn) {

@@ -34,8 +34,8 @@
 #include "state/mGen.h"
 #include "state/mLoad.h"
 #include "support/Child.h"
-#include "support/RandomPlayer.h"
 #include "table/memorylayer.h"
+#include "tools/RandomPlayer.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;

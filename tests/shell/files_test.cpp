@@ -61,52 +61,42 @@ private:
 };
 
 TEST_F(Files, AppendsWholeLinesAfterWhateverTheFileEndsIn) {
-    struct Row {
-        const char* Says;
-        const char* Before;
-        const char* After;
+    const std::pair<const char*, const char*> rows[] = {
+        // before, after
+        {"", "a\r\nb\r\n"},
+        {"x\r\n", "x\r\na\r\nb\r\n"},
+        {"x\n", "x\na\r\nb\r\n"},
+        {"x\r\ny", "x\r\ny\r\na\r\nb\r\n"},
+        {"x\r\ny\r", "x\r\ny\r\na\r\nb\r\n"},
     };
-    const Row rows[] = {
-        {"an empty file", "", "a\r\nb\r\n"},
-        {"a file with whole lines", "x\r\n", "x\r\na\r\nb\r\n"},
-        {"lines of another system", "x\n", "x\na\r\nb\r\n"},
-        {"a torn line", "x\r\ny", "x\r\ny\r\na\r\nb\r\n"},
-        {"a line torn inside its end", "x\r\ny\r", "x\r\ny\r\na\r\nb\r\n"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.Says);
+    for (const auto& [before, after] : rows) {
         const std::string path = Path("Zoë, 100%.sre");
-        Put(path, row.Before);
+        Put(path, before);
         EXPECT_EQ(files_.AppendLines(path, {"a", "b"}), std::nullopt);
-        EXPECT_EQ(Content(path), row.After);
+        EXPECT_EQ(Content(path), after);
     }
     EXPECT_EQ(files_.AppendLines(Path("new"), {"first"}), std::nullopt);
     EXPECT_EQ(Content(Path("new")), "first\r\n");
 }
 
 TEST_F(Files, AShortWriteLeavesTheFileAsItWas) {
-    struct Row {
-        const char* Says;
-        std::string Before;
-    };
-    const Row rows[] = {
+    const std::pair<const char*, std::string> rows[] = {
         {"a part fits", std::string(90, 'x') + "\r\n"},
         {"nothing fits", std::string(98, 'x') + "\r\n"},
         {"a torn line stays torn", std::string(95, 'x')},
         {"no file before", ""},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.Says);
+    for (const auto& [says, before] : rows) {
+        SCOPED_TRACE(says);
         const std::string path = Path("limited");
         ::unlink(path.c_str());
-        if (!row.Before.empty()) Put(path, row.Before);
-        EXPECT_TRUE(InChild([&] {
-            const rlimit limit{100, 100};
-            if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
-            return files_.AppendLines(path, {std::string(150, 'y')}) == "File too large";
+        if (!before.empty()) Put(path, before);
+        EXPECT_TRUE(InChild([&, room = rlimit{100, 100}] {
+            return ::setrlimit(RLIMIT_FSIZE, &room) == 0 &&
+                   files_.AppendLines(path, {std::string(150, 'y')}) == "File too large";
         }));
-        EXPECT_EQ(Content(path), row.Before);
-        EXPECT_EQ(files_.Exists(path), !row.Before.empty());
+        EXPECT_EQ(Content(path), before);
+        EXPECT_EQ(files_.Exists(path), !before.empty());
     }
 }
 
@@ -148,10 +138,9 @@ TEST_F(Files, ReplacePutsAllOrNothingInPlace) {
     ASSERT_EQ(::stat(path.c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777u, 0640u);
 
-    EXPECT_TRUE(InChild([&] {
-        const rlimit limit{100, 100};
-        if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return false;
-        return files_.Replace(path, std::string(200, 'x')) == "File too large";
+    EXPECT_TRUE(InChild([&, room = rlimit{100, 100}] {
+        return ::setrlimit(RLIMIT_FSIZE, &room) == 0 &&
+               files_.Replace(path, std::string(200, 'x')) == "File too large";
     }));
     EXPECT_EQ(Content(path), std::string("second\0!", 8));
 
@@ -212,32 +201,17 @@ protected:
 };
 
 TEST_F(Settings, EveryTextComesBackFromTheDisk) {
-    const std::vector<std::string> texts = {"",
-                                            " ",
-                                            " two words ",
-                                            "Smith, John",
-                                            "a;b=c",
-                                            "\"quoted\"",
-                                            "100%",
-                                            "%41",
-                                            "@Invalid()",
-                                            "@@",
-                                            "[Data]",
-                                            "back\\slash",
-                                            "line\nend",
-                                            "-1",
-                                            "00012",
-                                            "Zoë Ångström",
-                                            "日本語",
-                                            "\xF0\x9F\x83\x8F",
-                                            "true",
-                                            "Baker's Dozen"};
-    for (std::size_t i = 0; i < texts.size(); ++i) Save(settings_, "key" + std::to_string(i), texts[i]);
+    const QStringList texts = QStringLiteral(
+                                  "| | two words |Smith, John|a;b=c|\"quoted\"|100%|%41|@Invalid()|@@|[Data]|"
+                                  "back\\slash|line\nend|-1|00012|Zoë Ångström|日本語|\U0001F0CF|true")
+                                  .split(QLatin1Char('|'));
+    const auto key = [](qsizetype i) { return "key" + std::to_string(i); };
+    for (qsizetype i = 0; i < texts.size(); ++i) Save(settings_, key(i), texts[i].toStdString());
     // Read by an object of another process, so that nothing can come from memory.
     EXPECT_TRUE(InChild([&] {
         const QtSettings other;
-        for (std::size_t i = 0; i < texts.size(); ++i) {
-            if (Get(other, "key" + std::to_string(i)) != texts[i]) return false;
+        for (qsizetype i = 0; i < texts.size(); ++i) {
+            if (Get(other, key(i)) != texts[i].toStdString()) return false;
         }
         return Get(other, "missing") == "default";
     }));
@@ -354,7 +328,7 @@ TEST_F(Settings, AFolderWithoutRightsKeepsValuesInMemory) {
 }
 
 TEST(Calendar, WritesTheSameDigitsInEveryLocaleAndZone) {
-    const QByteArray zone = qgetenv("TZ");
+    const QByteArray zone = qEnvironmentVariableIsSet("TZ") ? qgetenv("TZ") : ":/etc/localtime";
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
     qputenv("TZ", "UTC-02:00");
@@ -364,11 +338,7 @@ TEST(Calendar, WritesTheSameDigitsInEveryLocaleAndZone) {
     EXPECT_EQ(calendar.Text(1072915200000 + 3661999), "2004-01-01 03:01:01");
     EXPECT_GT(calendar.Now(), 1700000000000);
     QLocale::setDefault(before);
-    if (zone.isNull()) {
-        qunsetenv("TZ");
-    } else {
-        qputenv("TZ", zone);
-    }
+    qputenv("TZ", zone);
     ::tzset();
 }
 

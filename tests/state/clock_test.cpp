@@ -1,5 +1,6 @@
 // Score, time and moves of the running game, and the texts that show them.
 #include <string>
+#include <tuple>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -25,21 +26,22 @@ TEST(Clock, FormatTime) {
 }
 
 TEST(Clock, Score) {
-    struct Row {
-        const char* Foundation;
-        int Time, Moves;
-        int Score;
+    // Ten a card, less one for 3 seconds, less one for 2 moves; halves to the even neighbour.
+    const std::tuple<const char*, int, int, int> rows[] = {
+        // foundation, time, moves, score
+        {"", 0, 0, 0},       {"", 30, 10, -15},
+        {"AH-4H", 0, 0, 40}, {"AH-KH", 9, 4, 125},
+        {"", 0, 1, 0},       {"", 0, 3, -2},
+        {"AH", 0, 3, 8},     {"", 1, 0, 0},
+        {"", 2, 0, -1},      {"", 2147483647, 32767, -32768},
     };
     const Engine engine;
-    // Ten a card, less one for 3 seconds, less one for 2 moves; halves to the even neighbour.
-    for (const Row& row : {Row{"", 0, 0, 0}, Row{"", 30, 10, -15}, Row{"AH-4H", 0, 0, 40},
-                           Row{"AH-KH", 9, 4, 125}, Row{"", 0, 1, 0}, Row{"", 0, 3, -2}, Row{"AH", 0, 3, 8},
-                           Row{"", 1, 0, 0}, Row{"", 2, 0, -1}, Row{"", 2147483647, 32767, -32768}}) {
+    for (const auto& [foundation, time, moves, score] : rows) {
         mPosition::Begin({});
-        mPosition::Lay(Goal, 0, row.Foundation);
-        gData->Figures.CurTime = row.Time;
-        gData->Figures.CurMoves = row.Moves;
-        EXPECT_EQ(mGen::CalcScore(), row.Score) << row.Foundation << ' ' << row.Time << ' ' << row.Moves;
+        mPosition::Lay(Goal, 0, foundation);
+        gData->Figures.CurTime = time;
+        gData->Figures.CurMoves = moves;
+        EXPECT_EQ(mGen::CalcScore(), score) << foundation << ' ' << time << ' ' << moves;
     }
     gData->Figures.GameRunning = false;
     EXPECT_EQ(mGen::CalcScore(), 0);
@@ -88,8 +90,6 @@ TEST(Clock, OnlyWhatThePlayerWantsIsShown) {
     gData->Set(Setting::ShowScore, 0);
     gData->Set(Setting::ShowMoves, 0);
     EXPECT_THAT(mMain::TickTime(), ElementsAre("", "", ""));
-    gData->Set(Setting::ShowTime, 1);
-    EXPECT_THAT(mMain::TickTime(), ElementsAre("", "Time :0:00:07", ""));
     mMain::CloseGame();
     EXPECT_THAT(mMain::TickTime(), ElementsAre("", "", ""));
     EXPECT_EQ(gData->Figures.CurTime, 7) << "the figures of the ended game stay";

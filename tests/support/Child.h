@@ -4,8 +4,6 @@
 #include <cerrno>
 #include <functional>
 
-#include <linux/capability.h>
-#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -34,11 +32,3 @@ inline constexpr unsigned Nobody = 65534;  ///< a user, and a group, who own not
 
 /// Rights of files do not hold root back.
 inline bool BecomeNobody() { return ::geteuid() != 0 || (::setgid(Nobody) == 0 && ::setuid(Nobody) == 0); }
-
-/// The same for a process that goes on as its user: its own files' rights hold it back from now on. The
-/// folders above may belong to root alone, where nobody would not even find them.
-inline bool ObeyRights() {
-    __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
-    const __user_cap_data_struct none[_LINUX_CAPABILITY_U32S_3] = {};
-    return ::geteuid() != 0 || ::syscall(SYS_capset, &header, &none) == 0;
-}

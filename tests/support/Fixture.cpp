@@ -13,9 +13,9 @@
 #include "state/cArray.h"
 #include "state/cTrans.h"
 #include "state/mLoad.h"
-#include "support/RandomPlayer.h"
 #include "table/cPlate.h"
 #include "table/mMain.h"
+#include "tools/RandomPlayer.h"
 
 Engine::Engine() {
     mLoad::Main(Layer.Layer());

@@ -14,8 +14,8 @@
 #include "shell/cData.h"
 #include "state/cArray.h"
 #include "state/cTrans.h"
-#include "support/Checks.h"
 #include "table/mMain.h"
+#include "tools/mChecks.h"
 
 namespace mScript {
 

@@ -24,18 +24,6 @@ protected:
     Engine engine_;
 };
 
-TEST_F(Reader, CardsSayWhatTheyShow) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "AH (KC) QD");
-    struct Row {
-        const char* Card;
-        const char* Text;
-    };
-    for (const Row& row :
-         {Row{"AH", "Ace of Hearts"}, Row{"KC", "Face-down card"}, Row{"QD", "Queen of Diamonds"}})
-        EXPECT_EQ(mReader::CardText(mPosition::Card(row.Card)), row.Text);
-}
-
 TEST_F(Reader, PilesSayNameNumberAndCountOrWhatAnEmptyOneTakes) {
     TestGame game;
     game.Res.Piles = 1;
@@ -43,9 +31,9 @@ TEST_F(Reader, PilesSayNameNumberAndCountOrWhatAnEmptyOneTakes) {
     mPosition::Lay(Home, 1, "KS");
     mPosition::Lay(Home, 2, "QS (4C) 2H");
     mPosition::Lay(Waste, 0, "9D 8D");
-    for (const MarkKind kind :
-         {MarkKind::Home, MarkKind::Right, MarkKind::Res, MarkKind::Waste, MarkKind::Stock})
-        PicBack.ShowMark(kind, 0, EmptyMark, 0, 0);
+    cPlate::ForEachMark([](MarkKind kind, int index) {
+        if (index == 0) PicBack.ShowMark(kind, index, EmptyMark, 0, 0);
+    });
     PicBack.SetMarkPicture(MarkKind::Right, 0, PlainMark);
     PicBack.ShowMark(MarkKind::Home, 3, 12, 0, 0);
     PicBack.ShowMark(MarkKind::Right, 1, 0, 0, 0);
@@ -62,6 +50,8 @@ TEST_F(Reader, PilesSayNameNumberAndCountOrWhatAnEmptyOneTakes) {
     EXPECT_EQ(mReader::PileText(stock), "Stock, empty, no redeal");
     PicBack.SetMarkPicture(MarkKind::Stock, 0, RedealMark);
     EXPECT_EQ(mReader::PileText(stock), "Stock, empty, a redeal is possible");
+    EXPECT_EQ(mReader::CardText(mPosition::Card("4C")), "Face-down card");
+    EXPECT_EQ(mReader::CardText(mPosition::Card("2H")), "Two of Hearts");
 }
 
 TEST_F(Reader, APointShowsWhatLiesInFront) {

@@ -3,6 +3,7 @@
 
 #include <map>
 #include <string>
+#include <tuple>
 
 #include <QScreen>
 
@@ -37,39 +38,31 @@ TEST_F(WindowStates, TheNextRunFindsTheWindowAsItWasLeft) {
 TEST_F(WindowStates, NonsenseInTheSettingsFallsBack) {
     const QSize first = window_->size();
     const QRect screen = window_->screen()->availableGeometry();
-    const struct {
-        const char* What;
-        std::map<std::string, std::string> Values;
-        QSize Size;
-        double Percent;
-    } rows[] = {
-        {"a wish",
-         {{"Left", "90"}, {"Top", "60"}, {"Width", "500"}, {"Height", "400"}, {"Zoom", "175"}},
-         {500, 400},
-         175},
-        {"far away",
-         {{"Left", "9000"}, {"Top", "-3000"}, {"Width", "500"}, {"Height", "400"}},
-         {500, 400},
-         100},
-        {"too large", {{"Left", "0"}, {"Top", "0"}, {"Width", "9000"}, {"Height", "7000"}}, {792, 768}, 100},
-        {"no numbers",
-         {{"Left", "x"}, {"Top", ""}, {"Width", "1e3"}, {"Height", "-400"}, {"Zoom", "99999"}},
-         first,
-         100},
-        {"no states", {{"Maximised", "yes"}, {"FitGame", "7"}, {"Zoom", "0"}}, first, 100},
+    using Values = std::map<std::string, std::string>;
+    const Values wish{{"Left", "90"}, {"Top", "60"}, {"Width", "500"}, {"Height", "400"}, {"Zoom", "175"}};
+    const Values farAway{{"Left", "9000"}, {"Top", "-3000"}, {"Width", "500"}, {"Height", "400"}};
+    const Values tooLarge{{"Left", "0"}, {"Top", "0"}, {"Width", "9000"}, {"Height", "7000"}};
+    const Values noNumbers{
+        {"Left", "x"}, {"Top", ""}, {"Width", "1e3"}, {"Height", "-400"}, {"Zoom", "99999"}};
+    const Values noStates{{"Maximised", "yes"}, {"FitGame", "7"}, {"Zoom", "0"}};
+    const std::tuple<const char*, Values, QSize, double> rows[] = {
+        {"a wish", wish, {500, 400}, 175},        {"far away", farAway, {500, 400}, 100},
+        {"too large", tooLarge, {792, 768}, 100}, {"no numbers", noNumbers, first, 100},
+        {"no states", noStates, first, 100},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, values, size, percent] : rows) {
+        SCOPED_TRACE(what);
         window_->close();
         window_.reset();
         std::erase_if(memory_.Settings.Values,
                       [](const auto& entry) { return entry.first.starts_with("Window/"); });
-        for (const auto& [key, value] : row.Values) memory_.Settings.Values["Window/" + key] = value;
+        for (const auto& [key, value] : values) memory_.Settings.Values["Window/" + key] = value;
         SetUp();
-        EXPECT_EQ(window_->size(), row.Size) << row.What;
-        EXPECT_TRUE(screen.contains(window_->frameGeometry())) << row.What;
-        EXPECT_FALSE(window_->isMaximized()) << row.What;
-        EXPECT_FALSE(Entry("fitGame")->isChecked()) << row.What;
-        EXPECT_DOUBLE_EQ(window_->Table()->Zoom() * 100, row.Percent) << row.What;
+        EXPECT_EQ(window_->size(), size);
+        EXPECT_TRUE(screen.contains(window_->frameGeometry()));
+        EXPECT_FALSE(window_->isMaximized());
+        EXPECT_FALSE(Entry("fitGame")->isChecked());
+        EXPECT_DOUBLE_EQ(window_->Table()->Zoom() * 100, percent);
     }
 }
 

@@ -1,5 +1,5 @@
 // The diary: a ring of the last actions, and all ways in which the program can end badly.
-#include "monkey/Diary.h"
+#include "tools/monkey/Diary.h"
 
 #include <array>
 #include <csignal>
@@ -10,6 +10,7 @@
 
 #include <unistd.h>
 
+#include <QObject>
 #include <QString>
 #include <QtGlobal>
 
@@ -25,7 +26,6 @@ std::uint32_t seed = 0;
 long actions = 0;
 std::array<std::string, Kept> last;
 std::map<std::string, long> counts;
-std::map<std::string, long> windows;
 
 void PrintLast() {
     std::fprintf(stderr, "seed %u, action %ld; the last actions:\n", seed, actions);
@@ -76,21 +76,23 @@ void Note(const std::string& action) {
     last[static_cast<std::size_t>(actions) % Kept] = std::to_string(actions) + ": " + action;
 }
 
-void Count(const char* what) { ++counts[what]; }
+void Count(const std::string& what) { ++counts[what]; }
 
-void CountWindow(const std::string& name) { ++windows[name]; }
+std::string NameOf(const QObject* object) {
+    std::string name = object->metaObject()->className();
+    if (!object->objectName().isEmpty()) name += ' ' + object->objectName().toStdString();
+    return name;
+}
 
 long Actions() { return actions; }
 
 void Report(int seconds, const std::string& more) {
-    std::printf("%5d s  %7ld actions", seconds, actions);
-    for (const auto& [what, count] : counts) std::printf("  %ld %s", count, what.c_str());
-    std::printf("  %s\n", more.c_str());
+    std::printf("%5d s  %7ld actions  %s\n", seconds, actions, more.c_str());
     std::fflush(stdout);
 }
 
-void ReportWindows() {
-    for (const auto& [name, count] : windows) std::printf("%7ld %s\n", count, name.c_str());
+void ReportCounts() {
+    for (const auto& [what, count] : counts) std::printf("%7ld %s\n", count, what.c_str());
 }
 
 void Fail(const std::string& fault) {

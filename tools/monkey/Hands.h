@@ -1,5 +1,6 @@
 // A mouse and a keyboard whose events come in where those of the window system do, so that grabs, modal
-// dialogs, popups, shortcuts and double clicks are what Qt makes of them.
+// dialogs, popups, shortcuts and double clicks are what Qt makes of them. All that they do stands in the
+// diary.
 #pragma once
 
 #include <QPoint>
@@ -30,6 +31,9 @@ public:
     [[nodiscard]] bool Holding() const { return buttons_ != Qt::NoButton; }
 
 private:
+    void PushButton(QWidget* on, QPoint at, Qt::MouseButton button);
+    void LetGo();
+    void PushKey(QWidget* window, int key, Qt::KeyboardModifiers modifiers, const QString& text);
     void Send(QWindow* window, QPoint at, Qt::MouseButton button, int event);
 
     Qt::MouseButtons buttons_;

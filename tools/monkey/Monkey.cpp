@@ -1,16 +1,16 @@
 // The choice of actions, and the checks.
-#include "monkey/Monkey.h"
+#include "tools/monkey/Monkey.h"
 
 #include <QApplication>
 #include <QWidget>
 
-#include "monkey/Diary.h"
-#include "monkey/ScreenCheck.h"
 #include "shell/cData.h"
 #include "state/cArray.h"
 #include "state/mGen.h"
-#include "support/Checks.h"
 #include "table/frmMain.h"
+#include "tools/mChecks.h"
+#include "tools/monkey/Diary.h"
+#include "tools/monkey/ScreenCheck.h"
 
 namespace {
 
@@ -67,7 +67,7 @@ void Monkey::Act() {
                  static_cast<std::uint32_t>(idle_));
     calendar_->Advance(Pick(200));
     if (gData->Figures.GameRunning) games_.insert(gData->Figures.CurGName);
-    if (number % ActionsBetweenChecks == 0) Check();
+    if (number >= nextCheck_) Check();
     Calm();
 
     if (hands_.Holding() && plan_.empty()) {
@@ -98,6 +98,7 @@ void Monkey::Act() {
 }
 
 void Monkey::Check() {
+    nextCheck_ = mDiary::Actions() + ActionsBetweenChecks;
     if (gData->Figures.GameRunning && !mGen::Dealing()) {
         const std::string fault = mChecks::TableFault();
         if (!fault.empty()) mDiary::Fail("the table of " + gData->Figures.CurGName + ": " + fault);

@@ -13,8 +13,8 @@
 #include <QTimer>
 #include <QUrl>
 
-#include "monkey/Hands.h"
 #include "table/windowlayer.h"
+#include "tools/monkey/Hands.h"
 
 class QAbstractItemView;
 class QAction;
@@ -94,6 +94,7 @@ private:
     MonkeyCalendar* calendar_ = nullptr;
     long lastAction_ = 0;  // after which the main window is closed
     long lastNumber_ = 0;
+    long nextCheck_ = 0;
     int idle_ = 0;                            // turns in which nothing was done
     int pause_ = 0;                           // milliseconds until the next action
     int screenTries_ = 0;                     // how often the screen may still differ; 0: not looking

@@ -14,18 +14,12 @@
 #include <QTabBar>
 #include <QWidget>
 
-#include "monkey/Diary.h"
-#include "monkey/Monkey.h"
+#include "tools/monkey/Diary.h"
+#include "tools/monkey/Monkey.h"
 
 namespace {
 
 constexpr const char* TurnsLeft = "monkeyTurns";
-
-std::string NameOf(const QObject* object) {
-    std::string name = object->metaObject()->className();
-    if (!object->objectName().isEmpty()) name += ' ' + object->objectName().toStdString();
-    return name;
-}
 
 template <typename Control>
 QList<Control*> InReach(const QWidget* window) {
@@ -47,7 +41,6 @@ void Monkey::OnPopup(QWidget* popup) {
         actions.removeIf([](const QAction* action) { return !action->isVisible() || action->isSeparator(); });
         if (!actions.isEmpty()) {
             QAction* action = OneOf(actions);
-            mDiary::Note("choose \"" + action->text().toStdString() + "\" of " + NameOf(menu));
             hands_.Click(menu, menu->actionGeometry(action).center());
             return;
         }
@@ -58,13 +51,10 @@ void Monkey::OnPopup(QWidget* popup) {
     } else if (choice < 75) {
         PressKey(popup);
     } else if (choice < 85) {
-        mDiary::Note("move over " + NameOf(popup));
         hands_.Move(popup, PointIn(popup));
     } else if (choice < 93) {
-        mDiary::Note("press outside of " + NameOf(popup));
         hands_.Click(popup, QPoint(-20, -20));
     } else {
-        mDiary::Note("Escape in " + NameOf(popup));
         hands_.Key(popup, Qt::Key_Escape);
     }
 }
@@ -74,10 +64,7 @@ void Monkey::OnDialog(QWidget* dialog) {
     const bool isMessage = qobject_cast<QMessageBox*>(dialog) != nullptr;
     const int turns = left.isValid() ? left.toInt() - 1 : (isMessage ? Pick(3) : 3 + Pick(30));
     dialog->setProperty(TurnsLeft, turns);
-    if (!left.isValid()) {
-        mDiary::Count(isMessage ? "messages" : "dialogs");
-        mDiary::CountWindow(NameOf(dialog));
-    }
+    if (!left.isValid()) mDiary::Count(mDiary::NameOf(dialog));
 
     if (auto* files = qobject_cast<QFileDialog*>(dialog)) return OnFileDialog(files);
     if (turns < 0) return LeaveDialog(dialog, -turns);
@@ -86,17 +73,14 @@ void Monkey::OnDialog(QWidget* dialog) {
     if (choice < 78 && !controls.isEmpty()) {
         OnControl(OneOf(controls));
     } else if (choice < 84) {
-        const QPoint at = PointIn(dialog);
-        mDiary::Note("click in " + NameOf(dialog));
-        hands_.Click(dialog, at, Chance(20) ? Qt::RightButton : Qt::LeftButton);
+        hands_.Click(dialog, PointIn(dialog), Chance(20) ? Qt::RightButton : Qt::LeftButton);
     } else if (choice < 94) {
         PressKey(dialog);
     } else if (choice < 97) {
         const QSize size(80 + Pick(1400), 60 + Pick(1100));
-        mDiary::Note("resize " + NameOf(dialog));
+        mDiary::Note("resize " + mDiary::NameOf(dialog));
         dialog->resize(size);
     } else {
-        mDiary::Note("Escape in " + NameOf(dialog));
         hands_.Key(dialog, Qt::Key_Escape);
     }
 }
@@ -109,19 +93,17 @@ void Monkey::LeaveDialog(QWidget* dialog, int tries) {
     const QList<QAbstractButton*> buttons = InReach<QAbstractButton>(dialog);
     if (tries < Patience && !buttons.isEmpty() && Chance(60)) {
         QAbstractButton* button = OneOf(buttons);
-        mDiary::Note("press " + NameOf(button) + " \"" + button->text().toStdString() + '"');
         hands_.Click(button, button->rect().center());
     } else if (tries < Patience) {
-        mDiary::Note("Escape in " + NameOf(dialog));
         hands_.Key(dialog, Qt::Key_Escape);
     } else if (tries < Force) {
-        mDiary::Note("close " + NameOf(dialog));
+        mDiary::Note("close " + mDiary::NameOf(dialog));
         dialog->close();
     } else if (tries < Stuck) {
-        mDiary::Note("reject " + NameOf(dialog));
+        mDiary::Note("reject " + mDiary::NameOf(dialog));
         if (auto* closing = qobject_cast<QDialog*>(dialog)) closing->reject();
     } else {
-        mDiary::Fail(NameOf(dialog) + " cannot be closed");
+        mDiary::Fail(mDiary::NameOf(dialog) + " cannot be closed");
     }
 }
 
@@ -145,35 +127,25 @@ void Monkey::OnControl(QWidget* control) {
     if (auto* view = qobject_cast<QAbstractItemView*>(control)) {
         OnItemView(view);
     } else if (isText && Chance(80)) {
-        mDiary::Note("click " + NameOf(control));
         hands_.Click(control, PointIn(control));
         TypeText(control->window());
     } else if (auto* tabs = qobject_cast<QTabBar*>(control); tabs && tabs->count() > 0) {
-        const int tab = Pick(tabs->count());
-        mDiary::Note("tab " + std::to_string(tab) + " of " + NameOf(control));
-        hands_.Click(tabs, tabs->tabRect(tab).center());
+        hands_.Click(tabs, tabs->tabRect(Pick(tabs->count())).center());
     } else if (qobject_cast<QComboBox*>(control) && Chance(40)) {
-        mDiary::Note("turn the wheel over " + NameOf(control));
         hands_.Wheel(control, control->rect().center(), Pick(9) - 4, Qt::NoModifier);
     } else if (qobject_cast<QAbstractSlider*>(control) && Chance(40)) {
-        mDiary::Note("drag " + NameOf(control));
         hands_.Press(control, PointIn(control));
         if (hands_.Holding()) hands_.Release();
+    } else if (Chance(10)) {
+        hands_.DoubleClick(control, PointIn(control));
     } else {
-        const QPoint at = PointIn(control);
-        mDiary::Note("click " + NameOf(control));
-        if (Chance(10)) {
-            hands_.DoubleClick(control, at);
-        } else {
-            hands_.Click(control, at, Chance(8) ? Qt::RightButton : Qt::LeftButton);
-        }
+        hands_.Click(control, PointIn(control), Chance(8) ? Qt::RightButton : Qt::LeftButton);
     }
 }
 
 void Monkey::OnItemView(QAbstractItemView* view) {
     const QAbstractItemModel* model = view->model();
     if (!model || model->rowCount(view->rootIndex()) == 0 || Chance(15)) {
-        mDiary::Note("click " + NameOf(view));
         hands_.Click(view->viewport(), PointIn(view->viewport()));
         return;
     }
@@ -184,10 +156,8 @@ void Monkey::OnItemView(QAbstractItemView* view) {
     view->scrollTo(index);
     const QPoint at = view->visualRect(index).center();
     if (Chance(35)) {
-        mDiary::Note("double-click row " + std::to_string(index.row()) + " of " + NameOf(view));
         hands_.DoubleClick(view->viewport(), at);
     } else {
-        mDiary::Note("click row " + std::to_string(index.row()) + " of " + NameOf(view));
         hands_.Click(view->viewport(), at);
     }
 }
@@ -202,7 +172,6 @@ void Monkey::PressKey(QWidget* window) {
     constexpr Qt::KeyboardModifier modifiers[] = {Qt::NoModifier, Qt::NoModifier, Qt::NoModifier,
                                                   Qt::ShiftModifier, Qt::ControlModifier};
     const Qt::KeyboardModifier modifier = modifiers[Pick(5)];
-    mDiary::Note("press " + QKeySequence(key | modifier).toString().toStdString() + " in " + NameOf(window));
     const QString text =
         key == Qt::Key_Space ? QStringLiteral(" ") : (key < 128 ? QString(QChar(key)) : QString());
     hands_.Key(window, key, modifier, modifier == Qt::ControlModifier ? QString() : text);
@@ -217,6 +186,5 @@ void Monkey::TypeText(QWidget* window) {
           << QStringLiteral("Player%1").arg(Pick(25));
     const QString text = OneOf(texts);
     if (Chance(50)) hands_.Key(window, Qt::Key_A, Qt::ControlModifier);
-    mDiary::Note("type " + text.left(30).toStdString());
     hands_.Type(window, text);
 }

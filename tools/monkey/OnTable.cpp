@@ -7,16 +7,16 @@
 #include <QToolButton>
 #include <QWidget>
 
-#include "monkey/Diary.h"
-#include "monkey/Monkey.h"
 #include "rules/mFunc.h"
 #include "shell/cData.h"
 #include "state/cArray.h"
 #include "state/cGames.h"
-#include "support/RandomPlayer.h"
 #include "table/TableView.h"
 #include "table/cPlate.h"
 #include "table/frmMain.h"
+#include "tools/RandomPlayer.h"
+#include "tools/monkey/Diary.h"
+#include "tools/monkey/Monkey.h"
 
 namespace {
 
@@ -46,16 +46,7 @@ void Monkey::PlanDrag() {
         const Point end = DropPlace(Cell, Pile);
         QWidget* view = window_->Table()->viewport();
         const QPoint to = OnView(*window_, end.X, end.Y);
-        mDiary::Note("press card " + std::to_string(PicID) + " for pile " + std::to_string(Cell) + '/' +
-                     std::to_string(Pile));
-        plan_ = {[this, view, to] {
-                     mDiary::Note("drag it there");
-                     hands_.Move(view, to);
-                 },
-                 [this] {
-                     mDiary::Note("drop it");
-                     hands_.Release();
-                 }};
+        plan_ = {[this, view, to] { hands_.Move(view, to); }, [this] { hands_.Release(); }};
         hands_.Press(view, OnView(*window_, mFunc::CardLeft(PicID), mFunc::CardTop(PicID)));
         return;
     }
@@ -69,7 +60,6 @@ void Monkey::PressAnywhere() {
         const CardRecord& card = PicBack.PicCards(Pick(gGames->TotalCards()));
         at = OnView(*window_, card.Left, card.Top);
     }
-    mDiary::Note("press the table at " + std::to_string(at.x()) + ", " + std::to_string(at.y()));
     constexpr Qt::MouseButton buttons[] = {Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
     hands_.Press(view, at, buttons[Pick(4)]);
 }
@@ -79,13 +69,10 @@ void Monkey::OnHeldButton() {
     const int choice = Pick(100);
     if (choice < 45) {
         const QPoint to = Chance(20) ? QPoint(Pick(4000) - 2000, Pick(4000) - 2000) : PointIn(view);
-        mDiary::Note("move the held mouse to " + std::to_string(to.x()) + ", " + std::to_string(to.y()));
         hands_.Move(view, to);
     } else if (choice < 92) {
-        mDiary::Note("let go of the mouse");
         hands_.Release();
     } else if (choice < 94) {
-        mDiary::Note("another button at the same time");
         hands_.Press(view, PointIn(view), Qt::RightButton);
     } else if (choice < 98) {
         PressShortcut();
@@ -105,20 +92,15 @@ void Monkey::OnTable() {
         PressAnywhere();
     } else if (running && choice < 660 && gArray->GetTop(Stock) >= 0) {
         const CardRecord& card = PicBack.PicCards(gArray->GetTopPicID(Stock));
-        mDiary::Note("click the stock");
         hands_.Click(view, OnView(*window_, card.Left, card.Top));
     } else if (choice < 680) {
         const MarkRecord& mark = PicBack.Mark(MarkKind::Stock, 0);
-        mDiary::Note("click the stock's mark");
         hands_.Click(view, OnView(*window_, mark.Left, mark.Top));
     } else if (choice < 710) {
-        mDiary::Note("double-click the table");
         hands_.DoubleClick(view, PointIn(view));
     } else if (choice < 740) {
-        mDiary::Note("move the mouse over the table");
         hands_.Move(view, PointIn(view));
     } else if (choice < 770) {
-        mDiary::Note("turn the wheel");
         hands_.Wheel(view, PointIn(view), Pick(7) - 3, Chance(50) ? Qt::ControlModifier : Qt::NoModifier);
     } else if (choice < 840) {
         OpenMenu();
@@ -148,17 +130,14 @@ void Monkey::OnTable() {
 
 void Monkey::OpenMenu() {
     QMenuBar* bar = window_->menuBar();
-    const QList<QAction*> menus = bar->actions();
-    const QAction* menu = OneOf(menus);
-    mDiary::Note("open the menu " + menu->text().toStdString());
-    hands_.Click(bar, bar->actionGeometry(const_cast<QAction*>(menu)).center());
+    QList<QAction*> menus = bar->actions();
+    hands_.Click(bar, bar->actionGeometry(OneOf(menus)).center());
 }
 
 void Monkey::PressShortcut() {
     QList<QAction*> actions = window_->findChildren<QAction*>();
     actions.removeIf([](const QAction* action) { return action->shortcut().isEmpty(); });
     const QKeySequence shortcut = OneOf(actions)->shortcut();
-    mDiary::Note("press " + shortcut.toString().toStdString());
     hands_.Key(window_, shortcut[0].key(), shortcut[0].keyboardModifiers());
 }
 
@@ -167,7 +146,6 @@ void Monkey::PressToolButton() {
     buttons.removeIf([](const QToolButton* button) { return !button->isVisible(); });
     if (buttons.isEmpty()) return PressShortcut();
     QToolButton* button = OneOf(buttons);
-    mDiary::Note("press the tool button " + button->toolTip().toStdString());
     hands_.Click(button, button->rect().center());
 }
 

@@ -1,5 +1,5 @@
 // Items and pixels of the table against the plate.
-#include "monkey/ScreenCheck.h"
+#include "tools/monkey/ScreenCheck.h"
 
 #include <set>
 
@@ -20,18 +20,6 @@
 
 namespace {
 
-struct MarkNames {
-    MarkKind Kind;
-    const char* Name;
-    bool Numbered;
-};
-
-constexpr MarkNames Marks[] = {
-    {MarkKind::Home, "PicHome", true},    {MarkKind::Right, "PicRight", true},
-    {MarkKind::Res, "PicRes", true},      {MarkKind::Waste, "PicWaste", true},
-    {MarkKind::Stock, "PicStock", false},
-};
-
 std::string Text(double x, double y) { return std::to_string(x) + ", " + std::to_string(y); }
 
 template <typename Record>
@@ -44,17 +32,15 @@ std::string PlaceFault(const QGraphicsItem& item, const Record& record) {
 }
 
 std::string MarksFault(const QHash<QString, const QGraphicsItem*>& items) {
-    for (const MarkNames& marks : Marks) {
-        for (int i = 0; i < cPlate::MarkCount(marks.Kind); ++i) {
-            QString name = QLatin1String(marks.Name);
-            if (marks.Numbered) name += QString::number(i);
-            const QGraphicsItem* item = items.value(name);
-            if (!item) return "there is no mark " + name.toStdString();
-            const std::string fault = PlaceFault(*item, PicBack.Mark(marks.Kind, i));
-            if (!fault.empty()) return "mark " + name.toStdString() + ' ' + fault;
-        }
-    }
-    return {};
+    std::string fault;
+    cPlate::ForEachMark([&](MarkKind kind, int index) {
+        const QString name = KelEmpty(kind, index).objectName();
+        const QGraphicsItem* item = items.value(name);
+        const std::string found =
+            item ? PlaceFault(*item, PicBack.Mark(kind, index)) : std::string("is missing");
+        if (!found.empty()) fault = "mark " + name.toStdString() + ' ' + found;
+    });
+    return fault;
 }
 
 /// What stands over the table, in the window's pixels: a toolbar of a narrow window folds out over it.

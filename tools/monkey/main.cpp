@@ -30,8 +30,6 @@
 #include <QThread>
 #include <QTimer>
 
-#include "monkey/Diary.h"
-#include "monkey/Monkey.h"
 #include "shell/QtCalendar.h"
 #include "shell/frmSelect.h"
 #include "shell/frmSplash.h"
@@ -41,6 +39,8 @@
 #include "table/ProgramLayer.h"
 #include "table/TableView.h"
 #include "table/frmMain.h"
+#include "tools/monkey/Diary.h"
+#include "tools/monkey/Monkey.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
@@ -215,7 +215,7 @@ int main(int argc, char** argv) {
 
     for (const char* scheme : schemes) QDesktopServices::unsetUrlHandler(QLatin1String(scheme));
     mDiary::Report(second(), std::to_string(monkey.GamesSeen()) + " different games  " + MemoryText());
-    mDiary::ReportWindows();
+    mDiary::ReportCounts();
     std::printf("the heap grew by %ld KiB after the first sessions\n", memory.Growth() / 1024);
     if (memory.Growth() > MostGrowth) mDiary::Fail("the memory in use grows");
     return 0;
