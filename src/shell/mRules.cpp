@@ -78,7 +78,7 @@ Respect OnlyDifference(const Facts& a, const Facts& b) {
 }
 
 // What is so in the other game, as a clause after "but".
-std::string Difference(const Facts& other, const Facts& than, Respect respect) {
+std::string DifferenceIn(Respect respect, const Facts& other, const Facts& than) {
     using namespace mRulesText;
     switch (respect) {
         case Respect::Deck:
@@ -209,6 +209,12 @@ std::string Name(int gameID) {
     return game ? std::string(game->Name) : std::string();
 }
 
+std::string Difference(const Definition& game, const Definition& than) {
+    const Facts other(game);
+    const Facts usual(than);
+    return DifferenceIn(OnlyDifference(usual, other), other, usual);
+}
+
 std::vector<std::pair<int, std::string>> Relatives(int gameID) {
     std::vector<std::pair<int, std::string>> relatives;
     const Entry* game = EntryOf(gameID);
@@ -216,7 +222,7 @@ std::vector<std::pair<int, std::string>> Relatives(int gameID) {
     for (const Entry& other : Entries()) {
         const Respect respect = OnlyDifference(game->Of, other.Of);
         if (respect != Respect::Derived)
-            relatives.emplace_back(other.ID, Difference(other.Of, game->Of, respect));
+            relatives.emplace_back(other.ID, DifferenceIn(respect, other.Of, game->Of));
     }
     return relatives;
 }

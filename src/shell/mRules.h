@@ -31,6 +31,10 @@ struct Section {
 /// The name of the game with that id.
 [[nodiscard]] std::string Name(int gameID);
 
+/// What is so in `game` and not in `than`, as a clause after "but"; empty where they differ in more than one
+/// respect, or in none.
+[[nodiscard]] std::string Difference(const Definition& game, const Definition& than);
+
 /// Games that differ from this one in one respect only: their ids, each with what is different there, such
 /// as "the tableau builds down in suit". In the order of the catalogue.
 [[nodiscard]] std::vector<std::pair<int, std::string>> Relatives(int gameID);

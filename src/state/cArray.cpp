@@ -72,12 +72,6 @@ int cArray::ClosedCards(int Pile) const {
     return closed;
 }
 
-void cArray::ReduceOne(int Cell, int Pile) {
-    short& top = topTable_[PileIndex(Cell, Pile)];
-    posTable_[PlaceIndex(Cell, Pile, top)] = -1;
-    --top;
-}
-
 void cArray::MoveCard(int PicID, int DCell, int DPile, int DPos, ::tMod tMod, int Speed, int mCards,
                       int DFace, bool DisAutoMove) {
     constexpr int FullTop = 12;  // a foundation pile is full at 13 cards

@@ -26,8 +26,6 @@ public:
     [[nodiscard]] int TotalGoalCards() const;
     /// Closed cards of a tableau pile.
     [[nodiscard]] int ClosedCards(int Pile) const;
-    /// Takes the top card off the tables without moving its record.
-    void ReduceOne(int Cell, int Pile);
 
     /// Moves PicID, and the mCards cards above it, to a place whose Pos counts from 0. The caller has
     /// decided that the move is allowed; only a full foundation pile refuses, in silence. `Speed` is

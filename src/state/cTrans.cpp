@@ -1,6 +1,7 @@
 // The transaction log: saving, undoing and redoing moves, and the rows of the history list.
 #include "state/cTrans.h"
 
+#include <array>
 #include <stdexcept>
 
 #include <fmt/format.h>
@@ -105,20 +106,8 @@ void cTrans::RedoAll(int Speed) {
 }
 
 std::string cTrans::ConvertCell(int i) {
-    switch (i) {
-        case Home:
-            return "Tableau";
-        case Stock:
-            return "Stock";
-        case Waste:
-            return "Waste";
-        case Goal:
-            return "Foundation";
-        case Res:
-            return "Reserve";
-        default:
-            return {};
-    }
+    constexpr std::array<const char*, CellCount> names{"Tableau", "Stock", "Waste", "Foundation", "Reserve"};
+    return names.at(static_cast<std::size_t>(i));
 }
 
 std::vector<HistoryRow> cTrans::CreateLV() const {

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QStandardPaths>
 
 #include "records/frmFinish.h"
 #include "shell/cData.h"
@@ -61,7 +62,9 @@ bool ProgramForms::AskCritical(const std::string& question) {
 std::optional<std::string> ProgramForms::AskSaveFile(const std::string& name, const std::string& filter) {
     // The caption stands before the bar, its pattern in brackets, which is the form Qt reads.
     const QString shown = QString::fromStdString(filter.substr(0, filter.find('|'))).trimmed();
-    QFileDialog dialog(Owner(main_), ProductName(), QString(), shown);
+    // Not where the program happened to be started: the user looks for the file among the documents.
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QFileDialog dialog(Owner(main_), ProductName(), documents, shown);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("txt"));
     dialog.selectFile(QString::fromStdString(name));

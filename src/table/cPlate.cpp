@@ -124,14 +124,3 @@ void cPlate::ShowStep() {
 void cPlate::LetEventsRun() {
     if (stage_) stage_->LetEventsRun();
 }
-
-void cPlate::Republish() {
-    if (!stage_) return;
-    for (int PicID = 0; PicID < MaxCards; ++PicID) {
-        stage_->CardChanged(PicID);
-        stage_->CardMoved(PicID);
-        stage_->CardRaised(PicID);
-        stage_->CardShown(PicID);
-    }
-    ForEachMark([this](MarkKind kind, int index) { stage_->MarkChanged(kind, index); });
-}

@@ -90,9 +90,6 @@ public:
     void ShowStep();
     void LetEventsRun();
 
-    /// Tells the stage to follow all records anew.
-    void Republish();
-
     /// Equal records; who watches plays no part.
     bool operator==(const cPlate& other) const { return cards_ == other.cards_ && marks_ == other.marks_; }
 

@@ -139,6 +139,23 @@ bool CanBeDealt(const Definition& game) {
     return (!needsNine || game.HomePiles >= 9) && (type != 2 || game.HomePiles >= 4);
 }
 
+// What a reader sees: whole sentences, no doubled blank or word, singular and plural right.
+void CheckParagraph(const std::string& paragraph, const std::string& where) {
+    static const std::regex unwanted(
+        R"(  |\b1 card|\bone cards|\b(two|three|four|five|six|\d+) card\b|\ba (Ace|Eight|eight|eleven)|\ban (King|Two)\b| [.,;:]|[.,;:][.,;:]|\b(the|a|of|and|in|to) \2\b)");
+    std::smatch found;
+    EXPECT_FALSE(std::regex_search(paragraph, found, unwanted)) << where << ": " << paragraph;
+    ASSERT_FALSE(paragraph.empty()) << where;
+    EXPECT_TRUE(std::isupper(static_cast<unsigned char>(paragraph.front())) ||
+                std::isdigit(static_cast<unsigned char>(paragraph.front())))
+        << where << ": " << paragraph;
+    EXPECT_EQ(paragraph.back(), '.') << where << ": " << paragraph;
+    static const std::regex startsSmall(R"(\. [a-z])");
+    EXPECT_FALSE(std::regex_search(paragraph, startsSmall)) << where << ": " << paragraph;
+    static const std::regex smallNumber(R"((^|[ (])([0-9]|1[0-2])([ ,.;:)]|$))");
+    EXPECT_FALSE(std::regex_search(paragraph, smallNumber)) << where << ": " << paragraph;
+}
+
 // The engine is the judge: where a random player meets other positions after a game has got another one's
 // number in a column, the text has to be another. (Whether such a player notices a change is a matter of
 // chance, so a text may change where the play did not.)
@@ -160,6 +177,12 @@ TEST_F(Rules, ANumberThatChangesPlayChangesTheText) {
                 if (std::any_of(tried.begin(), tried.end(), same) || !CanBeDealt(changed)) continue;
                 tried.push_back(changed);
                 if (mRules::PlainText(changed) != text) {
+                    const std::string clause = mRules::Difference(changed, game);
+                    // Lists of piles are read only where a game is dealt so.
+                    const bool lists = clause.find("row by row") != std::string::npos ||
+                                       clause.find("at the bottom of the piles") != std::string::npos;
+                    if (!clause.empty() && !lists)
+                        CheckParagraph("But " + clause + '.', std::string(game.Name));
                     ++noticed[column];
                     continue;
                 }
@@ -169,23 +192,6 @@ TEST_F(Rules, ANumberThatChangesPlayChangesTheText) {
     }
     for (std::size_t column = 0; column < ColumnCount; ++column)
         EXPECT_TRUE(noticed[column] > 0 || column == Waste) << column;
-}
-
-// What a reader sees: whole sentences, no doubled blank or word, singular and plural right.
-void CheckParagraph(const std::string& paragraph, const std::string& where) {
-    static const std::regex unwanted(
-        R"(  |\b1 card|\bone cards|\b(two|three|four|five|six|\d+) card\b|\ba (Ace|Eight|eight|eleven)|\ban (King|Two)\b| [.,;:]|[.,;:][.,;:]|\b(the|a|of|and|in|to) \2\b)");
-    std::smatch found;
-    EXPECT_FALSE(std::regex_search(paragraph, found, unwanted)) << where << ": " << paragraph;
-    ASSERT_FALSE(paragraph.empty()) << where;
-    EXPECT_TRUE(std::isupper(static_cast<unsigned char>(paragraph.front())) ||
-                std::isdigit(static_cast<unsigned char>(paragraph.front())))
-        << where << ": " << paragraph;
-    EXPECT_EQ(paragraph.back(), '.') << where << ": " << paragraph;
-    static const std::regex startsSmall(R"(\. [a-z])");
-    EXPECT_FALSE(std::regex_search(paragraph, startsSmall)) << where << ": " << paragraph;
-    static const std::regex smallNumber(R"((^|[ (])([0-9]|1[0-2])([ ,.;:)]|$))");
-    EXPECT_FALSE(std::regex_search(paragraph, smallNumber)) << where << ": " << paragraph;
 }
 
 TEST_F(Rules, AllPagesReadProperly) {
@@ -200,8 +206,7 @@ TEST_F(Rules, AllPagesReadProperly) {
         EXPECT_GE(sections, 6U) << name;
         for (const auto& [other, clause] : mRules::Relatives(id)) {
             EXPECT_NE(other, id);
-            std::string sentence = "But " + clause + '.';
-            CheckParagraph(sentence, name + " and " + mRules::Name(other));
+            CheckParagraph("But " + clause + '.', name + " and " + mRules::Name(other));
         }
     }
 }

@@ -22,6 +22,8 @@ const RegionalFormat german{.ShortDate = "dd.MM.yy", .LongTime = "HH:mm:ss t"};
 const RegionalFormat swedish{.ShortDate = "yyyy-MM-dd", .LongTime = "HH:mm:ss"};
 const RegionalFormat named{.ShortDate = "d MMM yyyy", .LongTime = "HH.mm.ss"};
 const RegionalFormat hungarian{.ShortDate = "yyyy. MM. dd.", .LongTime = "H:mm:ss"};
+const RegionalFormat weekday{.ShortDate = "ddd d/M/yyyy", .LongTime = "HH:mm:ss"};
+const RegionalFormat chakma{.ShortDate = "d/M/yyyy", .LongTime = "HH:mm:ss", .ZeroDigit = U'\U00011136'};
 const RegionalFormat finnish{.ShortDate = "d.M.yyyy", .LongTime = "H.mm.ss"};
 const RegionalFormat canadian{.ShortDate = "yyyy-MM-dd", .LongTime = "HH 'h' mm 'min' ss 's'"};
 const RegionalFormat korean{
@@ -62,6 +64,7 @@ TEST(RegionalDates, ReadWhatSuchAProgramWrote) {
         {named, "5 Jan 2004 22.22.33", "2004-01-05 22:22:33"},
         {named, "5 DEC 04 22.22.33", "2004-12-05 22:22:33"},
         {hungarian, "2004. 01. 05. 22:22:33", "2004-01-05 22:22:33"},
+        {weekday, "Mon 5/1/2004 22:22:33", "2004-01-05 22:22:33"},
         {finnish, "5.1.2004 22.22.33", "2004-01-05 22:22:33"},
         {canadian, "2004-01-05 22 h 22 min 33 s", "2004-01-05 22:22:33"},
         {korean, "2004. 1. 5. 오전 12:22:33", "2004-01-05 00:22:33"},
@@ -90,8 +93,15 @@ TEST(RegionalDates, ReadWhatSuchAProgramWrote) {
 TEST(RegionalDates, ShowDatesInTheWayOfTheRegion) {
     const CivilTime date{.Year = 2004, .Month = 3, .Day = 5};
     const std::pair<const RegionalFormat&, const char*> rows[] = {
-        {american, "3/5/2004"}, {american2, "3/5/04"},        {british, "05/03/2004"},   {german, "05.03.04"},
-        {named, "5 Mar 2004"},  {hungarian, "2004. 03. 05."}, {bulgarian, "5.03.04 г."}, {arabic, "٥/٣/٢٠٠٤"},
+        {american, "3/5/2004"},
+        {american2, "3/5/04"},
+        {british, "05/03/2004"},
+        {german, "05.03.04"},
+        {named, "5 Mar 2004"},
+        {hungarian, "2004. 03. 05."},
+        {bulgarian, "5.03.04 г."},
+        {arabic, "٥/٣/٢٠٠٤"},
+        {chakma, "\U0001113B/\U00011139/\U00011138\U00011136\U00011136\U0001113A"},
     };
     for (const auto& [format, text] : rows) EXPECT_EQ(RegionalDates(format).ShortDate(date), text);
     const RegionalDates dates(american);

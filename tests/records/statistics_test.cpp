@@ -156,6 +156,8 @@ TEST(LogView, FiltersCountBoundariesOfDaysAndMonths) {
 TEST(Session, ShowsEndedGamesAndTheRunningOne) {
     Records records({"Ann"});
     using mSession::Row;
+    EXPECT_THAT(mSession::GamesChart().Rows,
+                ElementsAre(ElementsAre(std::nullopt, std::nullopt, std::nullopt)));
     SessionFigures& figures = gData->Figures;
     figures = {.GameStartTime = "2004-01-01 00:00:00",
                .CurGName = "Klondike",

@@ -51,6 +51,16 @@ TEST(Store, ReadsThePlayersInSlotOrderAndEachFileInItsOwn) {
     EXPECT_EQ(gScore->GetTop(1), tScore{});
 }
 
+TEST(Store, AFileOfManyRecordsIsReadAsAShortOne) {
+    Records records;
+    constexpr int Many = 3000;
+    for (int i = 1; i <= Many; ++i) records.Add("Player1", i % 2 ? "Klondike" : "Yukon", i, 0);
+    for (int loading = 0; loading < 2; ++loading) gScore->OpenAllScore();
+    ASSERT_EQ(gScore->ScoreTop(), Many);
+    EXPECT_EQ(gScore->TotalStat().Score, Many * (Many + 1) / 2);
+    EXPECT_EQ(gScore->GetGameScore("Yukon", Many / 2).Score, Many);
+}
+
 TEST(Store, TotalsCountNegativeScoresAndStopAtTheLimit) {
     Records records({"Ann", "Bob"});
     records.Add("Ann", "Klondike", -50, 0, 100, 10);
@@ -235,6 +245,13 @@ TEST(Favourites, AreASnapshotOfTheFile) {
     gScore->ReportUnread();
     EXPECT_THAT(records.Messages(),
                 ElementsAre(HasSubstr("1 line of the favorites could not be read and was left out.")));
+    records.Layer.Files.Fault = "Permission denied";
+    gScore->ClearFav();
+    records.Layer.Files.Fault.reset();
+    EXPECT_THAT(records.Messages().back(),
+                HasSubstr(cScore::FavFileName() + " could not be deleted: Permission denied"));
+    gScore->OpenFav();
+    ASSERT_EQ(gScore->FavTop(), 3) << "nothing was lost";
     gScore->ClearFav();
     gScore->ClearFav();
     EXPECT_EQ(gScore->FavTop(), 3);

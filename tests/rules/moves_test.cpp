@@ -1,4 +1,8 @@
 // What may be lifted and where it may lie: the rules of the drag, each as a little play.
+#include <stdexcept>
+
+#include "rules/mFunc.h"
+#include "state/cArray.h"
 #include "state/codes.h"
 #include "support/Script.h"
 
@@ -80,6 +84,22 @@ TEST_F(Moves, OnAFoundation) {
         {"nothing where complete runs leave", "H0 2S; G2 AS | 2S>G2 | ="},
         {"nothing where complete runs leave: an Ace", "H0 AS | AS>G0 | ="},
     });
+}
+
+// Ways of dealing for which the catalogue has no game yet.
+TEST_F(Moves, DealsThatNoGameHas) {
+    game_.Home.Cards = 12;
+    game_.Home.cHomeType = HomeType::AllButPile4Open;
+    game_.Home.Piles = 6;
+    game_.Waste.Cards = 1;
+    mPosition::Deal(game_, 1.0);
+    for (int pile = 0; pile < 6; ++pile) {
+        EXPECT_EQ(mFunc::CardFaceMode(gArray->GetPicID(Home, pile, 0)), pile == 4 ? 1 : 0) << pile;
+        EXPECT_EQ(mFunc::CardFaceMode(gArray->GetPicID(Home, pile, 1)), 0) << "every top card lies open";
+    }
+    EXPECT_EQ(gArray->GetTop(Waste), 0);
+    EXPECT_EQ(gArray->GetTop(Stock), 38);
+    EXPECT_THROW((void)gGames->Piles(-1), std::out_of_range);
 }
 
 TEST_F(Moves, TheLog) {

@@ -1,12 +1,17 @@
 // Settings: defaults, what a damaged store gives, players, the recent list.
+#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "records/mPlayers.h"
 #include "shell/cData.h"
+#include "shell/mSelect.h"
+#include "state/mLoad.h"
 #include "support/Fixture.h"
+#include "table/mMain.h"
 
 namespace {
 
@@ -44,6 +49,24 @@ TEST(FirstRun, AStoredPlayerIsKept) {
     cData data(layer.Layer());
     EXPECT_EQ(data.TotalPlayers(), 1);
     EXPECT_EQ(data.CurPlayer(), "");
+}
+
+TEST(FirstRun, AFolderThatCannotBeMadeIsTold) {
+    MemoryLayer layer;
+    layer.Files.Fault = "Read-only file system";
+    mLoad::Main(layer.Layer());
+    mMain::Load();
+    EXPECT_THAT(layer.Forms.Messages,
+                testing::ElementsAre(testing::HasSubstr("could not be made: Read-only file system")));
+    mLoad::UnloadMain();
+}
+
+TEST_F(Settings, AnUnknownGameIsToldAndChangesNothing) {
+    mSelect::PlayNumber("Ann", "No such game", "5");
+    EXPECT_EQ(engine_.Layer.Forms.Messages.at(0), "There is no game \"No such game\".");
+    EXPECT_FALSE(gData->Figures.GameRunning);
+    EXPECT_EQ(gData->CurPlayer(), "Player1");
+    EXPECT_THROW((void)gData->GetGame(0), std::out_of_range);
 }
 
 TEST_F(Settings, RecentList) {

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
+#include <QToolBar>
 
 #include "MainWindowTest.h"
 #include "records/cScore.h"
@@ -13,6 +14,7 @@
 #include "state/cGames.h"
 #include "state/cTrans.h"
 #include "state/mGen.h"
+#include "table/mMain.h"
 
 namespace {
 
@@ -117,6 +119,26 @@ TEST_F(MainWindow, ReplayRunsByItsTimersAndStops) {
     EXPECT_EQ(gTrans->GetTransID(), gTrans->MaxTrans());
     EXPECT_TRUE(canStop);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !Entry("mReplay6")->isEnabled(); }, 20000));
+    for (const auto& [entry, end] : {std::pair{"mReplay2", 0}, {"mReplay4", gTrans->MaxTrans()}}) {
+        EXPECT_TRUE(QTest::qWaitFor([this, name = entry] { return Entry(name)->isEnabled(); }));
+        Entry(entry)->trigger();
+        const auto idle = [] { return mMain::ReplayState() == mMain::Replay::Stopped; };
+        EXPECT_TRUE(QTest::qWaitFor(idle, 20000)) << entry;
+        EXPECT_EQ(gTrans->GetTransID(), end) << entry;
+    }
+}
+
+TEST_F(MainWindow, HelpIsForTheRunningGameAndTheToolbarComesAndGoes) {
+    Entry("mHelp1")->trigger();
+    mGen::StartGame("Klondike", 7.0);
+    Entry("mHelp1")->trigger();
+    Entry("mHelp2")->trigger();
+    EXPECT_THAT(memory_.Help.Contexts, testing::ElementsAre(0, gData->GetGameID("Klondike"), 0));
+    const auto* toolbar = window_->findChild<QToolBar*>();
+    for (const bool shown : {false, true}) {
+        Entry("mGame9")->trigger();
+        EXPECT_EQ(toolbar->isVisible(), shown);
+    }
 }
 
 // Counts what a widget below the window has to draw or lay out.

@@ -11,6 +11,7 @@
 
 #include "Art.h"
 #include "shell/mPictures.h"
+#include "table/KelCard.h"
 #include "table/cPlate.h"
 
 namespace {
@@ -40,6 +41,23 @@ TEST(PicturesByNumber, UnknownNumbersGiveTheDefaultPicture) {
     }
     for (const int unknown : {-5, 0, 6, 999}) EXPECT_EQ(Background(unknown, 1), Background(1, 1)) << unknown;
     EXPECT_EQ(Background(1026, 0, 255).pixelColor(9, 9), QColor(255, 0, 0)) << "the custom colour";
+}
+
+TEST(PicturesByNumber, ASelectedCardIsShownInverted) {
+    PicBack.SetFaceMode(0, 0);
+    const auto look = [](bool selected) {
+        PicBack.SetSelected(0, selected);
+        QImage image(CardWidth / 15, CardHeight / 15, QImage::Format_RGB32);
+        image.fill(Qt::green);
+        QPainter painter(&image);
+        painter.scale(1 / mPictures::TwipsPerPixel, 1 / mPictures::TwipsPerPixel);
+        KelCard(0).paint(&painter, nullptr, nullptr);
+        return image.pixelColor(image.width() / 2, 8);
+    };
+    const QColor usual = look(false);
+    const QColor inverted = look(true);
+    PicBack.SetSelected(0, false);
+    EXPECT_EQ(inverted.rgb() & 0xFFFFFF, ~usual.rgb() & 0xFFFFFF);
 }
 
 TEST(PicturesByNumber, ColorsFadeToBlackOrStayFlat) {

@@ -125,7 +125,8 @@ TEST_F(Zoom, ACardInTheHandStaysUnderThePointer) {
 
 TEST_F(Zoom, AFittedGameIsSeenInEveryWindow) {
     Entry("fitGame")->trigger();
-    for (const char* game : {"Klondike", "Baker's Dozen", "Castle Tower", "Super Flower Garden"}) {
+    for (const char* game :
+         {"Klondike", "Baker's Dozen", "Castle Tower", "Four Seasons", "Super Flower Garden"}) {
         std::set<double> sizes;
         QTimer sample;
         QObject::connect(&sample, &QTimer::timeout, window_.get(), [&] { sizes.insert(Seen()); });
