@@ -12,12 +12,12 @@
 #include <utility>
 
 #include "RecordMaker.h"
-#include "records/cScore.h"
-#include "shell/QtFiles.h"
-#include "shell/cData.h"
-#include "state/mLoad.h"
-#include "table/mMain.h"
-#include "table/memorylayer.h"
+#include "engine/commands/mLoad.h"
+#include "engine/commands/mMain.h"
+#include "engine/outside/memorylayer.h"
+#include "engine/records/cScore.h"
+#include "engine/state/cData.h"
+#include "window/outside/QtFiles.h"
 
 /// The files of the machine under a folder of their own.
 class BenchFiles : public QtFiles {

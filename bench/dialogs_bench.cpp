@@ -16,14 +16,14 @@
 
 #include "StoreBench.h"
 #include "mFigures.h"
-#include "records/frmFinish.h"
-#include "records/frmGameStat.h"
-#include "records/frmHighScore.h"
-#include "records/frmLogStat.h"
-#include "records/frmOrgFav.h"
-#include "records/frmPlayFav.h"
-#include "records/frmPlayers.h"
-#include "records/frmSesStat.h"
+#include "window/records/frmFinish.h"
+#include "window/records/frmGameStat.h"
+#include "window/records/frmHighScore.h"
+#include "window/records/frmLogStat.h"
+#include "window/records/frmOrgFav.h"
+#include "window/records/frmPlayFav.h"
+#include "window/records/frmPlayers.h"
+#include "window/records/frmSesStat.h"
 
 namespace {
 

@@ -8,8 +8,8 @@
 #include <cstdlib>
 #include <string>
 
+#include "engine/state/cData.h"
 #include "mEngineWork.h"
-#include "shell/cData.h"
 #include "support/Fixture.h"
 
 int main(int argc, char** argv) {

@@ -9,16 +9,16 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "engine/commands/mAssets.h"
+#include "engine/commands/mCustomize.h"
+#include "engine/commands/mGen.h"
+#include "engine/commands/mLoad.h"
+#include "engine/outside/memorylayer.h"
 #include "mFigures.h"
-#include "shell/QtSettings.h"
-#include "shell/mAssets.h"
-#include "shell/mCustomize.h"
-#include "shell/mPictures.h"
-#include "state/mGen.h"
-#include "state/mLoad.h"
-#include "table/TableView.h"
-#include "table/frmMain.h"
-#include "table/memorylayer.h"
+#include "window/look/mPictures.h"
+#include "window/outside/QtSettings.h"
+#include "window/table/TableView.h"
+#include "window/table/frmMain.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 
 #include <array>
 
-#include "shell/cData.h"
-#include "shell/mRules.h"
-#include "state/cArray.h"
+#include "engine/help/mRules.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "state/mGen.h"
+#include "engine/commands/mGen.h"
 #include "tools/RandomPlayer.h"
 
 namespace mEngineWork {

@@ -6,10 +6,10 @@
 #include <cstdlib>
 
 #include "StoreBench.h"
+#include "engine/records/mLog.h"
+#include "engine/records/mRanking.h"
+#include "engine/records/mStatistics.h"
 #include "mFigures.h"
-#include "records/mLog.h"
-#include "records/mRanking.h"
-#include "records/mStatistics.h"
 
 namespace {
 

@@ -15,18 +15,18 @@
 #include <QTest>
 #include <QTimer>
 
+#include "engine/commands/mGen.h"
+#include "engine/commands/mLoad.h"
+#include "engine/commands/mZoom.h"
+#include "engine/outside/memorylayer.h"
+#include "engine/rules/mFunc.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
+#include "engine/state/cGames.h"
 #include "mFigures.h"
-#include "rules/mFunc.h"
-#include "shell/cData.h"
-#include "shell/mTablePicture.h"
-#include "state/cArray.h"
-#include "state/cGames.h"
-#include "state/mGen.h"
-#include "state/mLoad.h"
-#include "table/TableView.h"
-#include "table/frmMain.h"
-#include "table/mZoom.h"
-#include "table/memorylayer.h"
+#include "window/look/mTablePicture.h"
+#include "window/table/TableView.h"
+#include "window/table/frmMain.h"
 
 namespace {
 

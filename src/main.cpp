@@ -5,14 +5,14 @@
 
 #include <QApplication>
 
-#include "shell/cData.h"
-#include "shell/frmSelect.h"
-#include "shell/frmSplash.h"
-#include "shell/mIcons.h"
-#include "state/mLoad.h"
-#include "table/ProgramLayer.h"
-#include "table/TableView.h"
-#include "table/frmMain.h"
+#include "engine/commands/mLoad.h"
+#include "engine/state/cData.h"
+#include "window/dialogs/frmSelect.h"
+#include "window/dialogs/frmSplash.h"
+#include "window/look/mIcons.h"
+#include "window/table/ProgramLayer.h"
+#include "window/table/TableView.h"
+#include "window/table/frmMain.h"
 
 namespace {
 

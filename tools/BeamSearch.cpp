@@ -5,12 +5,12 @@
 #include <array>
 #include <map>
 
-#include "rules/mPlay.h"
-#include "shell/cData.h"
-#include "state/cArray.h"
-#include "state/cGames.h"
-#include "state/cTrans.h"
-#include "table/cPlate.h"
+#include "engine/rules/mPlay.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
+#include "engine/state/cGames.h"
+#include "engine/state/cPlate.h"
+#include "engine/state/cTrans.h"
 
 namespace {
 

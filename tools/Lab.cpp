@@ -6,13 +6,13 @@
 
 #include <fmt/format.h>
 
-#include "rules/mFunc.h"
-#include "shell/cData.h"
-#include "state/cTrans.h"
-#include "state/mGen.h"
-#include "state/mLoad.h"
-#include "table/cPlate.h"
-#include "table/mMain.h"
+#include "engine/commands/mGen.h"
+#include "engine/commands/mLoad.h"
+#include "engine/commands/mMain.h"
+#include "engine/rules/mFunc.h"
+#include "engine/state/cData.h"
+#include "engine/state/cPlate.h"
+#include "engine/state/cTrans.h"
 #include "tools/LabArguments.h"
 #include "tools/LabState.h"
 

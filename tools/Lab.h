@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "table/memorylayer.h"
+#include "engine/outside/memorylayer.h"
 
 /// One session. The engine's objects are global, so only one can live at a time.
 class Lab {

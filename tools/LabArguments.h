@@ -8,7 +8,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "state/GameNumber.h"
+#include "engine/state/GameNumber.h"
 
 /// A command that cannot be carried out. The text says what is wrong, for the person or the bot that
 /// wrote the line; whoever throws it has changed nothing yet.

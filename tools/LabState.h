@@ -5,7 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "table/memorylayer.h"
+#include "engine/outside/memorylayer.h"
 
 namespace mLabState {
 

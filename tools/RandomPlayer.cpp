@@ -3,12 +3,12 @@
 
 #include <array>
 
-#include "rules/mFunc.h"
-#include "shell/cData.h"
-#include "state/cArray.h"
-#include "state/cGames.h"
-#include "state/cTrans.h"
-#include "table/mMain.h"
+#include "engine/commands/mMain.h"
+#include "engine/rules/mFunc.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
+#include "engine/state/cGames.h"
+#include "engine/state/cTrans.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <random>
 
-#include "state/cGames.h"
-#include "table/cPlate.h"
+#include "engine/state/cGames.h"
+#include "engine/state/cPlate.h"
 
 /// Whether a pile of the tableau, the reserve or the foundations takes a card that is lifted with `above`
 /// others.

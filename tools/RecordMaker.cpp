@@ -6,8 +6,8 @@
 
 #include <fmt/format.h>
 
-#include "records/mScoreFile.h"
-#include "shell/cData.h"
+#include "engine/records/mScoreFile.h"
+#include "engine/state/cData.h"
 
 namespace {
 

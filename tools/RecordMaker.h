@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "records/mDates.h"
+#include "engine/records/mDates.h"
 
 struct RecordPlan {
     int Players = 20;

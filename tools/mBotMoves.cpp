@@ -3,12 +3,12 @@
 
 #include <fmt/format.h>
 
-#include "rules/mFunc.h"
-#include "rules/mPlay.h"
-#include "state/cArray.h"
-#include "state/cGames.h"
-#include "table/cPlate.h"
-#include "table/mMain.h"
+#include "engine/commands/mMain.h"
+#include "engine/rules/mFunc.h"
+#include "engine/rules/mPlay.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cGames.h"
+#include "engine/state/cPlate.h"
 
 namespace mBotMoves {
 

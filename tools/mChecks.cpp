@@ -6,10 +6,10 @@
 
 #include <fmt/format.h>
 
-#include "rules/mFunc.h"
-#include "state/cArray.h"
-#include "state/cGames.h"
-#include "table/cPlate.h"
+#include "engine/rules/mFunc.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cGames.h"
+#include "engine/state/cPlate.h"
 
 namespace mChecks {
 

@@ -7,9 +7,9 @@
 #include <string>
 
 #include "RecordMaker.h"
-#include "state/mLoad.h"
-#include "table/mMain.h"
-#include "table/memorylayer.h"
+#include "engine/commands/mLoad.h"
+#include "engine/commands/mMain.h"
+#include "engine/outside/memorylayer.h"
 
 namespace {
 

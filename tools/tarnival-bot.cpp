@@ -19,12 +19,12 @@
 #include <fmt/format.h>
 
 #include "BeamSearch.h"
+#include "engine/commands/mGen.h"
+#include "engine/commands/mLoad.h"
+#include "engine/commands/mMain.h"
+#include "engine/outside/memorylayer.h"
+#include "engine/state/cData.h"
 #include "mBotMoves.h"
-#include "shell/cData.h"
-#include "state/mGen.h"
-#include "state/mLoad.h"
-#include "table/mMain.h"
-#include "table/memorylayer.h"
 
 namespace {
 

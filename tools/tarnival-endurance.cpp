@@ -18,17 +18,17 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include "records/cScore.h"
-#include "shell/QtCalendar.h"
-#include "shell/QtFiles.h"
-#include "shell/QtSettings.h"
-#include "shell/cData.h"
-#include "state/mGen.h"
-#include "state/mLoad.h"
-#include "table/mMain.h"
-#include "table/memorylayer.h"
+#include "engine/commands/mGen.h"
+#include "engine/commands/mLoad.h"
+#include "engine/commands/mMain.h"
+#include "engine/outside/memorylayer.h"
+#include "engine/records/cScore.h"
+#include "engine/state/cData.h"
 #include "tools/RandomPlayer.h"
 #include "tools/mChecks.h"
+#include "window/outside/QtCalendar.h"
+#include "window/outside/QtFiles.h"
+#include "window/outside/QtSettings.h"
 
 namespace {
 

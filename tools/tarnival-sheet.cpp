@@ -10,11 +10,11 @@
 #include <QGuiApplication>
 #include <QPainter>
 
-#include "shell/cData.h"
-#include "shell/mTablePicture.h"
-#include "state/mLoad.h"
-#include "table/mMain.h"
-#include "table/memorylayer.h"
+#include "engine/commands/mLoad.h"
+#include "engine/commands/mMain.h"
+#include "engine/outside/memorylayer.h"
+#include "engine/state/cData.h"
+#include "window/look/mTablePicture.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <tuple>
 #include <utility>
 
-#include "catalogue/definition.h"
+#include "engine/catalogue/definition.h"
 
 /// All of a row but its name, its flag and its places.
 template <typename Game>

@@ -6,15 +6,15 @@
 #include <string_view>
 #include <vector>
 
-#include "rules/mCards.h"
-#include "rules/mFunc.h"
-#include "rules/mPlay.h"
-#include "shell/cData.h"
-#include "state/cArray.h"
-#include "state/cTrans.h"
-#include "state/mLoad.h"
-#include "table/cPlate.h"
-#include "table/mMain.h"
+#include "engine/commands/mLoad.h"
+#include "engine/commands/mMain.h"
+#include "engine/rules/mCards.h"
+#include "engine/rules/mFunc.h"
+#include "engine/rules/mPlay.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
+#include "engine/state/cPlate.h"
+#include "engine/state/cTrans.h"
 #include "tools/RandomPlayer.h"
 
 Engine::Engine() {

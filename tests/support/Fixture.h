@@ -4,9 +4,9 @@
 
 #include <string>
 
-#include "state/cGames.h"
-#include "state/codes.h"
-#include "table/memorylayer.h"
+#include "engine/outside/memorylayer.h"
+#include "engine/state/cGames.h"
+#include "engine/state/codes.h"
 
 /// The engine from the program's start to its end. Only one can live at a time.
 class Engine {

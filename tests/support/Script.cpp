@@ -9,12 +9,12 @@
 
 #include <fmt/format.h>
 
-#include "rules/mFunc.h"
-#include "rules/mPlay.h"
-#include "shell/cData.h"
-#include "state/cArray.h"
-#include "state/cTrans.h"
-#include "table/mMain.h"
+#include "engine/commands/mMain.h"
+#include "engine/rules/mFunc.h"
+#include "engine/rules/mPlay.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
+#include "engine/state/cTrans.h"
 #include "tools/mChecks.h"
 
 namespace mScript {

@@ -15,10 +15,10 @@
 #include <QTimer>
 #include <QtTest/QTest>
 
-#include "shell/cData.h"
-#include "state/mGen.h"
-#include "state/mLoad.h"
-#include "table/memorylayer.h"
+#include "engine/commands/mGen.h"
+#include "engine/commands/mLoad.h"
+#include "engine/outside/memorylayer.h"
+#include "engine/state/cData.h"
 
 class DialogTest : public testing::Test {
 protected:

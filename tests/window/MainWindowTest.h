@@ -13,11 +13,11 @@
 #include <QMouseEvent>
 #include <QTest>
 
-#include "rules/mFunc.h"
-#include "state/mLoad.h"
-#include "table/TableView.h"
-#include "table/frmMain.h"
-#include "table/memorylayer.h"
+#include "engine/commands/mLoad.h"
+#include "engine/outside/memorylayer.h"
+#include "engine/rules/mFunc.h"
+#include "window/table/TableView.h"
+#include "window/table/frmMain.h"
 
 // Hands what the engine says to the window, and keeps the rest in memory.
 class WindowForms : public MemoryForms {

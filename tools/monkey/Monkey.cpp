@@ -4,13 +4,13 @@
 #include <QApplication>
 #include <QWidget>
 
-#include "shell/cData.h"
-#include "state/cArray.h"
-#include "state/mGen.h"
-#include "table/frmMain.h"
+#include "engine/commands/mGen.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
 #include "tools/mChecks.h"
 #include "tools/monkey/Diary.h"
 #include "tools/monkey/ScreenCheck.h"
+#include "window/table/frmMain.h"
 
 namespace {
 

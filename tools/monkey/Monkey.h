@@ -13,7 +13,7 @@
 #include <QTimer>
 #include <QUrl>
 
-#include "table/windowlayer.h"
+#include "engine/outside/windowlayer.h"
 #include "tools/monkey/Hands.h"
 
 class QAbstractItemView;

@@ -7,16 +7,16 @@
 #include <QToolButton>
 #include <QWidget>
 
-#include "rules/mFunc.h"
-#include "shell/cData.h"
-#include "state/cArray.h"
-#include "state/cGames.h"
-#include "table/TableView.h"
-#include "table/cPlate.h"
-#include "table/frmMain.h"
+#include "engine/rules/mFunc.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
+#include "engine/state/cGames.h"
+#include "engine/state/cPlate.h"
 #include "tools/RandomPlayer.h"
 #include "tools/monkey/Diary.h"
 #include "tools/monkey/Monkey.h"
+#include "window/table/TableView.h"
+#include "window/table/frmMain.h"
 
 namespace {
 

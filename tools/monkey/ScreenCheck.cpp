@@ -12,11 +12,11 @@
 #include <QScreen>
 #include <QToolBar>
 
-#include "table/KelCard.h"
-#include "table/KelEmpty.h"
-#include "table/TableView.h"
-#include "table/cPlate.h"
-#include "table/frmMain.h"
+#include "engine/state/cPlate.h"
+#include "window/table/KelCard.h"
+#include "window/table/KelEmpty.h"
+#include "window/table/TableView.h"
+#include "window/table/frmMain.h"
 
 namespace {
 

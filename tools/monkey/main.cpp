@@ -30,17 +30,17 @@
 #include <QThread>
 #include <QTimer>
 
-#include "shell/QtCalendar.h"
-#include "shell/frmSelect.h"
-#include "shell/frmSplash.h"
-#include "shell/mIcons.h"
-#include "shell/mPictures.h"
-#include "state/mLoad.h"
-#include "table/ProgramLayer.h"
-#include "table/TableView.h"
-#include "table/frmMain.h"
+#include "engine/commands/mLoad.h"
 #include "tools/monkey/Diary.h"
 #include "tools/monkey/Monkey.h"
+#include "window/dialogs/frmSelect.h"
+#include "window/dialogs/frmSplash.h"
+#include "window/look/mIcons.h"
+#include "window/look/mPictures.h"
+#include "window/outside/QtCalendar.h"
+#include "window/table/ProgramLayer.h"
+#include "window/table/TableView.h"
+#include "window/table/frmMain.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();

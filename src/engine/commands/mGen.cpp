@@ -1,0 +1,276 @@
+// The spine of a game's life: setting up, starting, winning, closing, and setting a game aside.
+#include "engine/commands/mGen.h"
+
+#include <algorithm>
+#include <exception>
+#include <limits>
+#include <utility>
+
+#include "engine/catalogue/families.h"
+#include "engine/records/cScore.h"
+#include "engine/records/mPlayers.h"
+#include "engine/rules/mCards.h"
+#include "engine/rules/mFunc.h"
+#include "engine/rules/mPlay.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
+#include "engine/state/cGames.h"
+#include "engine/state/cPlate.h"
+#include "engine/state/cTrans.h"
+#include "engine/state/mRandom.h"
+
+namespace mGen {
+
+namespace {
+
+bool dealing = false;
+int openActions = 0;
+AfterGame wanted = AfterGame::Nothing;  // what the end-of-game dialog asked for
+
+// Autoplay and win check, after every move.
+void AfterMove(bool autoplay) {
+    if (autoplay) mPlay::AutoPlayAll();
+    if (gData->Figures.GameRunning) CheckWin();
+}
+
+void NoteStartTime() {
+    const Calendar& calendar = gData->Layer().Calendar;
+    gData->Figures.GameStart = calendar.Now();
+    gData->Figures.GameStartTime = calendar.Text(gData->Figures.GameStart);
+}
+
+int Saturated16(int value) {
+    using Limits = std::numeric_limits<short>;
+    return std::clamp<int>(value, Limits::min(), Limits::max());
+}
+
+// What the end-of-game dialog shows, taken before the game is closed.
+FinishSummary Summary() {
+    const SessionFigures& figures = gData->Figures;
+    FinishSummary summary;
+    summary.GameName = figures.CurGName;
+    summary.Lines = {" Game : " + mGameNumber::Text(figures.CurGNo), " Player : " + gData->CurPlayer(),
+                     " Time : " + mFunc::FormatTime(figures.CurTime),
+                     " Moves : " + std::to_string(figures.CurMoves),
+                     " Score : " + std::to_string(figures.CurScore)};
+    summary.Score = std::max(0, figures.CurScore);
+    summary.Moves = figures.CurMoves;
+    summary.Seconds = figures.CurTime;
+    return summary;
+}
+
+void RunWanted() {
+    switch (std::exchange(wanted, AfterGame::Nothing)) {
+        case AfterGame::Nothing:
+            break;
+        case AfterGame::NewGame:
+            StartGame(gData->LastGName(), mFunc::NewGameNo());
+            break;
+        case AfterGame::RestartGame:
+            StartGame(gData->Figures.CurGName, gData->Figures.CurGNo);
+            break;
+        case AfterGame::SelectGame:
+            gData->Layer().Forms.ShowSelect();
+            break;
+    }
+}
+
+// The flag must fall also when a deal ends in an exception.
+class DealingFlag {
+public:
+    DealingFlag() { dealing = true; }
+    ~DealingFlag() { dealing = false; }
+    DealingFlag(const DealingFlag&) = delete;
+    DealingFlag& operator=(const DealingFlag&) = delete;
+};
+
+void Deal(const GameNumber& number) {
+    gArray->Init(number);
+    mPlay::AssignFaces();
+    gTrans = std::make_unique<cTrans>();
+    NoteStartTime();
+    mPlay::StartDeal();
+}
+
+}  // namespace
+
+void InitApp() {
+    const WindowLayer& layer = gData->Layer();
+    gGames = std::make_unique<cGames>();
+    gArray = std::make_unique<cArray>();
+    gArray->OnMoved = AfterMove;
+    gTrans = std::make_unique<cTrans>();
+    gScore = std::make_unique<cScore>();
+    gData->SesStartTime = layer.Calendar.Text(layer.Calendar.Now());
+    PicBack.SetStage(&layer.Stage);
+    mPlay::LoadControls();
+    RefreshRecent();
+    layer.Forms.LayoutTable();
+    layer.Forms.PaintBackground();
+    for (const std::string& folder : {gData->AppCompDir(), gData->AppDir()}) {
+        if (layer.Files.Exists(folder)) continue;
+        if (const FileError error = layer.Files.MakeFolder(folder)) {
+            layer.Forms.Inform("The folder " + folder + " could not be made: " + *error +
+                               "\nRecords of games cannot be written until it exists.");
+            break;
+        }
+    }
+    mPlayers::Mend();
+    if (gData->TotalPlayers() == 0) gData->SetPlayer(1, "Player1", true);
+    // This order fixes the numbering of the catalogue.
+    gBDozen::ListGames();
+    gBeCastle::ListGames();
+    gCanfield::ListGames();
+    gFan::ListGames();
+    gFortyThieves::ListGames();
+    gFourSeasons::ListGames();
+    gFreecell::ListGames();
+    gKlondike::ListGames();
+    gSirTommy::ListGames();
+    gSpider::ListGames();
+    gYukon::ListGames();
+}
+
+void ReleaseAll() {
+    PicBack = cPlate{};
+    gGames.reset();
+    gTrans.reset();
+    gArray.reset();
+    gScore.reset();
+    gDrag = {};
+    gGoalBase = 0;
+    gRedealCount = 0;
+    wanted = AfterGame::Nothing;
+}
+
+void RefreshRecent() {
+    constexpr int RecentSlots = 5;
+    std::vector<std::string> names;
+    for (int i = 1; i <= RecentSlots; ++i) names.push_back(gData->GetRecent(i));
+    gData->Layer().Forms.ShowRecent(names);
+}
+
+void SetGameRules(const std::string& name) {
+    gGames->NewGameStart();
+    gFreecell::SetGame(name);
+    gKlondike::SetGame(name);
+    gSpider::SetGame(name);
+    gFortyThieves::SetGame(name);
+    gBeCastle::SetGame(name);
+    gFan::SetGame(name);
+    gBDozen::SetGame(name);
+    gCanfield::SetGame(name);
+    gYukon::SetGame(name);
+    gFourSeasons::SetGame(name);
+    gSirTommy::SetGame(name);
+}
+
+std::string GameCaption() {
+    const SessionFigures& figures = gData->Figures;
+    return gData->ProdName() + " [" + figures.CurGName + "] [" + gData->CurPlayer() + "] [" +
+           mGameNumber::Text(figures.CurGNo) + "]";
+}
+
+void StartGame(const std::string& name, const GameNumber& number) {
+    if (dealing || gData->GetGameID(name) == 0) return;
+    const Action action;
+    // Both may belong to what the steps below change, such as the current game of a restart.
+    const std::string game = name;         // NOLINT(performance-unnecessary-copy-initialization)
+    const GameNumber gameNumber = number;  // NOLINT(performance-unnecessary-copy-initialization)
+    if (gData->Figures.GameRunning) CloseGame(0);
+    gData->SetRecent(game);
+    RefreshRecent();
+    SetGameRules(game);
+    gData->Figures.CurGNo = gameNumber;
+    gData->SetCurGName(game);
+    gData->Layer().Forms.SetCaption(GameCaption());
+    {
+        const DealingFlag flag;
+        gDrag = {};
+        Deal(gameNumber);
+    }
+    gData->Figures.GameRunning = true;
+    mPlay::AutoPlayAll();
+    gRedealCount = 0;
+}
+
+void CloseGame(int mWon) {
+    gScore->AddScore(mWon);
+    gScore->AddSesGame(mWon);
+    gData->Figures.GameRunning = false;
+    gDrag = {};
+    mCards::HideAll();
+}
+
+int CardsToWin() {
+    constexpr int FullPile = 13;
+    const int total = gGames->TotalCards();
+    if (gGames->GameType() == GameType::CompleteRuns) return total;
+    return std::min(total, FullPile * gGames->Piles(Goal));
+}
+
+void CheckWin() {
+    if (gArray->TotalGoalCards() != CardsToWin()) return;
+    const FinishSummary summary = Summary();
+    gData->PlaySound("Win");
+    // Recorded before the dialog shows, so that the statistics that it opens contain the game.
+    CloseGame(1);
+    wanted = gData->Layer().Forms.ShowFinish(summary);
+}
+
+int CalcScore() {
+    if (!gData->Figures.GameRunning) return 0;
+    const double spent = gData->Figures.CurTime / 3.0 + gData->Figures.CurMoves / 2.0;
+    return Saturated16(RoundToEven(10 * gArray->TotalGoalCards() - spent));
+}
+
+bool Dealing() { return dealing; }
+
+Action::Action() : exceptions_(std::uncaught_exceptions()) { ++openActions; }
+
+Action::~Action() noexcept(false) {
+    --openActions;
+    if (std::uncaught_exceptions() > exceptions_) return;
+    if (openActions == 0 && wanted != AfterGame::Nothing) RunWanted();
+}
+
+struct AsideGame::Saved {
+    cGames Games = *gGames;
+    cArray Array = *gArray;
+    cTrans Trans = *gTrans;
+    cPlate Plate = PicBack;
+    SessionFigures Figures = gData->Figures;
+    DragState Drag = gDrag;
+    int GoalBase = gGoalBase;
+    int RedealCount = gRedealCount;
+    bool Quiet = gData->Quiet;
+    bool Dealing = dealing;
+};
+
+AsideGame::AsideGame() : saved_(std::make_unique<Saved>()) {
+    PicBack.SetStage(nullptr);
+    gData->Quiet = true;
+    gData->Figures.GameRunning = false;
+}
+
+AsideGame::~AsideGame() {
+    *gGames = std::move(saved_->Games);
+    *gArray = std::move(saved_->Array);
+    *gTrans = std::move(saved_->Trans);
+    PicBack = saved_->Plate;
+    gData->Figures = std::move(saved_->Figures);
+    gDrag = saved_->Drag;
+    gGoalBase = saved_->GoalBase;
+    gRedealCount = saved_->RedealCount;
+    gData->Quiet = saved_->Quiet;
+    dealing = saved_->Dealing;
+}
+
+void AsideGame::Deal(const std::string& name, const GameNumber& number) {
+    mCards::HideAll();
+    SetGameRules(name);
+    const DealingFlag flag;
+    mGen::Deal(number);
+}
+
+}  // namespace mGen

@@ -1,0 +1,52 @@
+// What a screen reader reads of the table: the piles that lie there, the names of piles and cards, and
+// what lies at a point. It looks at the running game and changes nothing; while a move is under way it
+// may meet a pile half built, and then reads what is there.
+#pragma once
+
+#include <compare>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "engine/state/cGames.h"
+
+namespace mReader {
+
+/// A pile of the running game.
+struct PilePlace {
+    int Cell = 0;
+    int Pile = 0;
+    auto operator<=>(const PilePlace&) const = default;
+};
+
+/// A part of the plate, in twips.
+struct Area {
+    int Left = 0, Top = 0, Width = 0, Height = 0;
+    [[nodiscard]] bool Contains(const Point& point) const;
+    bool operator==(const Area&) const = default;
+};
+
+/// The piles that can be seen, by group and number; none while no game runs. A pile without a mark is
+/// there as long as it has cards.
+[[nodiscard]] std::vector<PilePlace> Piles();
+[[nodiscard]] int Count(const PilePlace& pile);
+/// The card at `Pos`, counted from the bottom, or -1.
+[[nodiscard]] int Card(const PilePlace& pile, int Pos);
+/// Whether the card above lies exactly on this one.
+[[nodiscard]] bool IsCovered(const PilePlace& pile, int Pos);
+
+/// "Seven of Hearts", or "Face-down card".
+[[nodiscard]] std::string CardText(int PicID);
+/// "Tableau pile 3, 5 cards"; "Stock, 1 card" where a group has one pile; "Foundation pile 1, empty,
+/// takes an Ace" where the mark tells.
+[[nodiscard]] std::string PileText(const PilePlace& pile);
+
+[[nodiscard]] Area CardArea(int PicID);
+/// All cards and the pile's own place.
+[[nodiscard]] Area PileArea(const PilePlace& pile);
+/// The pile of the card or mark that is seen at that point of the plate.
+[[nodiscard]] std::optional<PilePlace> PileAt(const Point& point);
+/// The Pos of the pile's card that is seen there, or -1. Other piles play no part.
+[[nodiscard]] int PosAt(const PilePlace& pile, const Point& point);
+
+}  // namespace mReader

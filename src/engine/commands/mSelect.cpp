@@ -1,0 +1,52 @@
+// The decisions of the two selection dialogs: who plays, which number is good, and the start.
+#include "engine/commands/mSelect.h"
+
+#include "engine/commands/mGen.h"
+#include "engine/rules/mFunc.h"
+#include "engine/state/cData.h"
+
+namespace {
+
+void Start(const std::string& player, const std::string& game, const GameNumber& number) {
+    if (mGen::Dealing()) return;
+    if (gData->GidfromName(game) == 0) {
+        gData->Layer().Forms.Inform("There is no game \"" + game + "\".");
+        return;
+    }
+    // Before the start: a running game that is abandoned here goes to the player just chosen.
+    if (!player.empty()) gData->SetCurPlayer(player);
+    mGen::StartGame(game, number);
+}
+
+}  // namespace
+
+namespace mSelect {
+
+std::vector<std::string> Games() {
+    std::vector<std::string> games;
+    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) games.push_back(gData->GetGame(SiD));
+    return games;
+}
+
+void Play(const std::string& player, const std::string& game) { Start(player, game, mFunc::NewGameNo()); }
+
+double LargestNumber() {
+    double power = 1.0;  // exact: the range has 15 digits at most
+    for (int i = gData->Get(Setting::RangeIndex); i > 0; --i) power *= 10.0;
+    return power - 1.0;
+}
+
+std::string RangeText() { return "0 and " + mFunc::Grouped(LargestNumber()); }
+
+std::optional<std::string> NumberFault(const std::string& typed) {
+    const std::optional<double> number = mGameNumber::Parse(typed);
+    const double largest = LargestNumber();
+    if (number && *number > 0.0 && *number < largest) return std::nullopt;
+    return "Please enter a number between 0 and " + mFunc::Grouped(largest);
+}
+
+void PlayNumber(const std::string& player, const std::string& game, const std::string& typed) {
+    Start(player, game, typed);
+}
+
+}  // namespace mSelect

@@ -1,0 +1,48 @@
+// Sizes, the plate's place, and fitting a game.
+#include "engine/commands/mZoom.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace mZoom {
+
+namespace {
+
+constexpr double Same = 0.5;  // percent: a difference that nobody sees
+
+constexpr std::array<int, 13> Sizes{Smallest, 60,  70,  80,  90,  ActualSize, 110,
+                                    125,      150, 175, 200, 250, Largest};
+
+}  // namespace
+
+double Larger(double percent) {
+    const auto next = std::upper_bound(Sizes.begin(), Sizes.end(), percent + Same);
+    return next == Sizes.end() ? percent : *next;
+}
+
+double Smaller(double percent) {
+    const auto same = std::lower_bound(Sizes.begin(), Sizes.end(), percent - Same);
+    return same == Sizes.begin() ? percent : *std::prev(same);
+}
+
+double PlateLeft(double width, double zoom, double ratio) {
+    const double left = (width - PlateWidth * zoom / TwipsPerPixel) / 2 - LeftShift * zoom / TwipsPerPixel;
+    return std::round(left * ratio) / ratio;
+}
+
+double Fit(const mRoom::Area& area, double width, double height, double ratio) {
+    constexpr double Margin = 150;  // twips
+    constexpr double Lowest = 0.1;
+    constexpr double Highest = 5.0;
+    constexpr double DesignedWidth = CardWidth / TwipsPerPixel;
+    // The plate keeps its place over the middle, so the farther side of the game decides.
+    const double middle = PlateWidth / 2.0 + LeftShift;
+    const double toSide = std::max(middle - area.Left, area.Right - middle) + Margin;
+    const double zoom =
+        std::min(width * TwipsPerPixel / (2 * toSide), height * TwipsPerPixel / (area.Bottom + Margin));
+    const double cardPixels = std::floor(std::clamp(zoom, Lowest, Highest) * ratio * DesignedWidth);
+    return cardPixels / (ratio * DesignedWidth);
+}
+
+}  // namespace mZoom

@@ -1,0 +1,223 @@
+// The texts of the general pages; finding pages by words.
+#include "engine/help/mHelpPages.h"
+
+#include <algorithm>
+#include <cctype>
+#include <utility>
+
+#include "engine/help/mRules.h"
+#include "engine/help/mRulesWords.h"
+#include "engine/state/cData.h"
+
+namespace mHelpPages {
+
+namespace {
+
+std::string LowerCase(std::string_view text) {
+    std::string lower(text);
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
+    return lower;
+}
+
+std::vector<std::string> Words(std::string_view text) {
+    std::vector<std::string> words;
+    std::string word;
+    for (const char letter : LowerCase(text) + ' ') {
+        if (letter != ' ') {
+            word += letter;
+        } else if (!word.empty()) {
+            words.push_back(std::exchange(word, {}));
+        }
+    }
+    return words;
+}
+
+bool HoldsAll(const std::string& text, const std::vector<std::string>& words) {
+    return std::all_of(words.begin(), words.end(),
+                       [&](const std::string& word) { return text.find(word) != std::string::npos; });
+}
+
+// Name and rules of every game in small letters, made at the first search.
+struct Searchable {
+    int ID;
+    std::string Name;
+    std::string Rules;
+};
+
+const std::vector<Searchable>& Texts() {
+    static const std::vector<Searchable> texts = [] {
+        std::vector<Searchable> all;
+        for (const int id : mRules::AllGames()) {
+            const std::string name = LowerCase(mRules::Name(id));
+            all.push_back({id, name, name + '\n' + LowerCase(mRules::PlainText(*mRules::Find(id)))});
+        }
+        return all;
+    }();
+    return texts;
+}
+
+}  // namespace
+
+const std::vector<Page>& All() {
+    static const std::vector<Page> pages{
+        {"mouse",
+         "Playing with the mouse",
+         {"Press a card, drag it to another pile and let go. If it fits there, it stays; if not, it goes "
+          "back and "
+          "nothing has been counted. Cards that lie on the one you press come along where the game lets them "
+          "move "
+          "together.",
+          "A card whose middle lies over a pile goes to that pile if it fits; otherwise it is tried on the "
+          "piles "
+          "that it touches: first on the tableau, then on the reserve, then on the foundations.",
+          "A press on a face-down stock deals from it: to the waste or to the tableau, as the rules of the "
+          "game "
+          "say. Where the game allows a redeal, click on the mark under the empty stock.",
+          "The right button on the empty table opens a menu for its size: Zoom In, Zoom Out, Actual Size, "
+          "Fit "
+          "Game to Window and Full Screen. The wheel zooms while Ctrl is held down, even with a card in the "
+          "hand.",
+          "While Autoplay is on, cards that fit on a foundation go there by themselves after every move. "
+          "Switch it "
+          "off with F7 to keep a card on the tableau.",
+          "Every move can be undone and redone, without limit. Redeals and other uses of the stock that a "
+          "game "
+          "counts stay counted when they are undone."}},
+        {"keys",
+         "Keys",
+         {"F1 opens the rules of the running game, or the contents while none is running.",
+          "F2 starts a new deal of the last game, F3 selects a game, Ctrl+F2 starts the same deal again, "
+          "Ctrl+F12 "
+          "asks for a game number, and F12 closes the game.",
+          "Ctrl+Z undoes a move and Ctrl+X redoes it; Ctrl+C undoes all moves and Ctrl+V redoes all of them. "
+          "F7 "
+          "switches Autoplay on and off. Ctrl+H shows the history of moves.",
+          "Shift+F1 replays the game forward by itself, Shift+F2 backward.",
+          "Ctrl++ and Ctrl+- zoom in and out, and Ctrl+0 shows the table in its actual size. Ctrl+9 fits the "
+          "game to the window, whatever size the window takes. F11 fills the screen; F11 or Escape leaves "
+          "it. "
+          "The menu key opens the menu of the table's size.",
+          "Ctrl+A adds the deal to the favorites, Ctrl+F organizes them, and Ctrl+P plays one of them.",
+          "F4 opens the game statistics and F9 the high scores; Ctrl+L opens the players and Ctrl+U the "
+          "Customize "
+          "dialog."}},
+        {"scoring",
+         "Score, time and moves",
+         {"The score is the same in all games: ten points for each card on the foundations, less one point "
+          "for "
+          "every three seconds and one for every two moves. It can fall below zero. The base cards that some "
+          "games "
+          "lay on their foundations count from the start.",
+          "Each card or run that you move is one move, and so is each card that goes to a foundation by "
+          "itself and "
+          "each card that the stock deals. A card that goes back where it came from is none. Undo gives the "
+          "move "
+          "back, but not the time.",
+          "A game is won when its foundations hold all the cards that they can. Whatever else ends a game "
+          "counts "
+          "as lost: starting another one, closing the game, or closing the window."}},
+        {"statistics",
+         "Statistics and high scores",
+         {"Every finished game is kept with its player, score, time and moves. Game Statistics sums all of "
+          "them "
+          "up: in general, by game, by date and by player. Session Statistics shows the games since the "
+          "program "
+          "was started, and the running one.",
+          "High Scores ranks at most 20 games: the best of all, the best of a game, the best of a player, "
+          "and the "
+          "won games. Log Statistics lists the games one by one and can be narrowed to a player, a game and "
+          "a "
+          "span of time.",
+          "All statistics can be exported to a text file, and they can be cleared. Clearing cannot be "
+          "undone."}},
+        {"players",
+         "Players",
+         {"Up to 20 players keep records of their own. Players, in the Tools menu, adds, renames, deletes "
+          "and "
+          "selects them; the player can also be chosen when a game is selected.",
+          "A player's records go with a new name, and are lost when the player is deleted. The selected "
+          "player "
+          "cannot be deleted."}},
+        {"favourites",
+         "Favorites and game numbers",
+         {"A deal is named by its game and its number: the same number always gives the same deal. Select a "
+          "Number "
+          "plays the deal of a number that you type.",
+          "A deal worth playing again can be added to the favorites while it is on the table. Play from "
+          "Favorites "
+          "starts it again, and Organize Favorites puts the list in order. All players share one list."}},
+        {"settings",
+         "Settings",
+         {"Customize, in the Tools menu, has the background of the table, the backs of the cards, the speeds "
+          "of "
+          "moving cards, the sounds, the range of random game numbers, and what is shown beside the menus.",
+          "The background, the deck, the speeds and the sounds are taken over with OK. The other choices act "
+          "at "
+          "once."}},
+        {"files",
+         "Files",
+         {"The program keeps its files in your own folder for application data, and its settings where your "
+          "desktop "
+          "keeps those of all programs. Nothing leaves the machine.",
+          "Each player has a file of records, named after the player and ending in .sre, with a line for "
+          "each "
+          "game. The favorites are in fav.dat. Statistics are exported to a text file wherever you like."}},
+    };
+    return pages;
+}
+
+std::string Html(std::string_view key) {
+    for (const Page& page : All()) {
+        if (page.Key != key) continue;
+        std::string html = "<h1>" + mRulesWords::Escape(page.Title) + "</h1>\n";
+        for (const std::string_view paragraph : page.Paragraphs) {
+            html += "<p>" + mRulesWords::Escape(paragraph) + "</p>\n";
+        }
+        return html;
+    }
+    return {};
+}
+
+std::string Group(int Gid) {
+    if (Gid < 1 || Gid > gData->TotalGroups()) return {};
+    std::string html = "<h1>" + mRulesWords::Escape(gData->GroupfromGiD(Gid)) + "</h1>\n<ul>\n";
+    constexpr int IDsOfGroup = 100;
+    for (const int id : mRules::AllGames()) {
+        if (id / IDsOfGroup != Gid) continue;
+        html += "<li><a href=\"game:" + std::to_string(id) + "\">" + mRulesWords::Escape(mRules::Name(id)) +
+                "</a></li>\n";
+    }
+    return html + "</ul>\n";
+}
+
+std::vector<int> FindGames(std::string_view words) {
+    const std::vector<std::string> wanted = Words(words);
+    std::vector<int> found;
+    std::vector<int> byRules;
+    for (const Searchable& game : Texts()) {
+        if (HoldsAll(game.Name, wanted)) {
+            found.push_back(game.ID);
+        } else if (HoldsAll(game.Rules, wanted)) {
+            byRules.push_back(game.ID);
+        }
+    }
+    found.insert(found.end(), byRules.begin(), byRules.end());
+    return found;
+}
+
+std::vector<std::string_view> FindPages(std::string_view words) {
+    const std::vector<std::string> wanted = Words(words);
+    std::vector<std::string_view> found;
+    for (const Page& page : All()) {
+        std::string text(page.Title);
+        for (const std::string_view paragraph : page.Paragraphs) {
+            text += '\n';
+            text += paragraph;
+        }
+        if (HoldsAll(LowerCase(text), wanted)) found.push_back(page.Key);
+    }
+    return found;
+}
+
+}  // namespace mHelpPages

@@ -1,0 +1,75 @@
+// The rules as questions: which card may lie on which, what may be lifted, what a pile accepts.
+// Every rule is a function of the game's numbers and of the cards on the table; nothing here knows a game.
+#pragma once
+
+#include <string>
+
+#include "engine/state/GameNumber.h"
+#include "engine/state/cGames.h"
+#include "engine/state/codes.h"
+
+/// The drag in progress. None of it is kept across two drags, nor by Undo.
+struct DragState {
+    bool gPicked = false;  ///< a card hangs on the mouse
+    int gPickCount = 0;    ///< cards above the lifted card that go with it
+    int gDownX = 0;        ///< where in the card the press fell, twips
+    int gDownY = 0;
+    int gDownLeft = 0;  ///< the lifted card's place at the press, twips
+    int gDownTop = 0;
+};
+extern DragState gDrag;
+
+namespace mFunc {
+
+// What a card's record says, by PicID.
+[[nodiscard]] int CardCell(int PicID);
+[[nodiscard]] int CardPile(int PicID);
+[[nodiscard]] int CardPos(int PicID);
+[[nodiscard]] int CardNum(int PicID);
+[[nodiscard]] int CardSuit(int PicID);
+[[nodiscard]] int CardSuitpile(int PicID);
+[[nodiscard]] int CardColor(int PicID);
+[[nodiscard]] int CardFaceMode(int PicID);
+[[nodiscard]] int CardLeft(int PicID);
+[[nodiscard]] int CardTop(int PicID);
+
+[[nodiscard]] bool SameSuit(int A, int B);
+[[nodiscard]] bool DiffSuit(int A, int B);
+[[nodiscard]] bool SameColor(int A, int B);
+[[nodiscard]] bool AltColor(int A, int B);
+
+enum class Direction : int { Down = -1, Either = 0, Up = 1 };
+enum class SuitRule : int { Same = 1, Alternate = 2, Any = 3, Different = 4, SameColor = 5 };
+
+/// Whether card B fits on card A. `AK`: Ace and King are neighbours.
+[[nodiscard]] bool RankSuitOK(int A, int B, Direction Dir, SuitRule Rule, bool AK);
+[[nodiscard]] bool OrderOK(int A, int B, RuleCode Order, bool AK);
+
+/// Whether the `Count` pairs of cards from PicID upward in its tableau pile obey MultiOrder.
+[[nodiscard]] bool IsSeq(int PicID, int Count);
+[[nodiscard]] int CountEmpty(int Cell);
+/// How many cards may follow the lifted card where the game limits runs.
+[[nodiscard]] int MaxMoveCards();
+
+/// Whether a card may be lifted; `above` receives the cards that go with it.
+[[nodiscard]] bool CanLift(int PicID, int& above);
+/// What a pile accepts from a card that lies at (SCell, SPile) with `above` cards on it.
+[[nodiscard]] bool HomeAccepts(int PicID, int SCell, int SPile, int Pile);
+[[nodiscard]] bool ResAccepts(int Pile, int above);
+[[nodiscard]] bool GoalAccepts(int PicID, int Pile, int above);
+
+/// The press on a card: lifts it and what lies above it, or runs a stock command.
+void TryPick(int PicID, int Cell, int Pile, int Pos);
+/// Whether the dragged card hits a place: with its centre (`Mode` false) or with any part (`Mode` true).
+[[nodiscard]] bool IsOverlap(int PicID, int Cell, int Pile, int Pos, bool Mode);
+
+/// A fresh random game number, 1 to 10^RangeIndex - 1.
+[[nodiscard]] GameNumber NewGameNo();
+/// Seconds since the start of the running game, 0 when none runs or the clock was set back.
+[[nodiscard]] int ElapsedSecs();
+/// "1:02:03" for 3723 seconds; hours count on without a limit.
+[[nodiscard]] std::string FormatTime(int seconds);
+/// A whole number with a comma between groups of three digits.
+[[nodiscard]] std::string Grouped(double number);
+
+}  // namespace mFunc

@@ -1,0 +1,106 @@
+// Play by hand: cards get their faces, are dragged, dropped and sent back.
+#include "engine/rules/mPlay.h"
+
+#include "engine/rules/mCards.h"
+#include "engine/rules/mFunc.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
+#include "engine/state/cGames.h"
+#include "engine/state/cPlate.h"
+#include "engine/state/mRandom.h"
+
+int gRedealCount = 0;
+
+namespace mPlay {
+
+namespace {
+
+// The steps of a dragged group are constants: it keeps this spacing whatever the pile's own.
+constexpr int DragStepDown = 250;   // twips
+constexpr int DragStepRight = 180;  // twips, where the tableau fans to the right
+
+// Puts the cards above the lifted one in their steps from its place.
+void TrailGroup(int Pile, int Pos, int left, int top, bool raise) {
+    const PileOrder order = gGames->HomePileOrder();
+    const bool right = order == PileOrder::AcrossFanRight || order == PileOrder::DownFanRight;
+    for (int i = 1; i <= gDrag.gPickCount; ++i) {
+        const int PicID = gArray->GetPicID(Home, Pile, Pos + i);
+        PicBack.Move(PicID, right ? left + DragStepRight * i : left, right ? top : top + DragStepDown * i);
+        if (raise) PicBack.ToFront(PicID);
+    }
+}
+
+// One pass of the scan: the first pile that the card hits and that accepts it takes it.
+bool DropInPass(int PicID, int Cell, int Pile, bool Mode) {
+    const int above = gDrag.gPickCount;
+    for (int p = 0; p < gGames->Piles(Home); ++p) {
+        const int top = gArray->GetTop(Home, p);
+        if (!mFunc::IsOverlap(PicID, Home, p, top, Mode) || !mFunc::HomeAccepts(PicID, Cell, Pile, p))
+            continue;
+        gArray->MoveCard(PicID, Home, p, top + 1, tMod::Play, 1, above);
+        return true;
+    }
+    for (int p = 0; p < gGames->Piles(Res); ++p) {
+        if (!mFunc::IsOverlap(PicID, Res, p, 0, Mode) || !mFunc::ResAccepts(p, above)) continue;
+        gArray->MoveCard(PicID, Res, p, 0);
+        return true;
+    }
+    for (int p = 0; p < gGames->Piles(Goal); ++p) {
+        if (!mFunc::IsOverlap(PicID, Goal, p, 0, Mode) || !mFunc::GoalAccepts(PicID, p, above)) continue;
+        gArray->MoveCard(PicID, Goal, p, gArray->GetTop(Goal, p) + 1);
+        return true;
+    }
+    return false;
+}
+
+}  // namespace
+
+void LoadControls() {
+    for (int PicID = 0; PicID < MaxCards; ++PicID) PicBack.SetDeckPic(PicID, gData->Get(Setting::DeckIndex));
+}
+
+void AssignFaces() {
+    constexpr int Ranks = 13;
+    constexpr int DeckCards = 52;
+    for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
+        const int value = gArray->GetRandom(PicID);
+        int suit = 0;
+        if (gGames->SuitType() == SuitType::TwoSuits) suit = value % DeckCards / (2 * Ranks);
+        if (gGames->SuitType() == SuitType::FourSuits) suit = value % DeckCards / Ranks;
+        const int rank = value % Ranks;
+        PicBack.SetValue(PicID, suit, rank, value / Ranks);
+        PicBack.SetMainPic(PicID, suit * Ranks + rank + 1);
+        PicBack.ToFront(PicID);
+    }
+}
+
+void StartDeal() {
+    mCards::DealGoal();
+    mCards::DealMarkers();
+    mCards::DealStock();
+    mCards::DealWaste();
+    mCards::DealRes();
+    gData->PlaySound("Start");
+    mCards::DealHome();
+}
+
+void DragMove(int PicID, int Pile, int Pos, double X, double Y) {
+    const int left = RoundToEven(mFunc::CardLeft(PicID) + X - gDrag.gDownX);
+    const int top = RoundToEven(mFunc::CardTop(PicID) + Y - gDrag.gDownY);
+    PicBack.Move(PicID, left, top);
+    PicBack.ToFront(PicID);
+    TrailGroup(Pile, Pos, left, top, true);
+    PicBack.Refresh();
+}
+
+void DropCard(int PicID, int Cell, int Pile, int Pos) {
+    if (DropInPass(PicID, Cell, Pile, false) || DropInPass(PicID, Cell, Pile, true)) return;
+    ReturnCards(PicID, Pile, Pos);
+}
+
+void ReturnCards(int PicID, int Pile, int Pos) {
+    PicBack.Move(PicID, gDrag.gDownLeft, gDrag.gDownTop);
+    TrailGroup(Pile, Pos, gDrag.gDownLeft, gDrag.gDownTop, false);
+}
+
+}  // namespace mPlay

@@ -1,0 +1,33 @@
+// A tree of games under one root, as the selection dialog shows three of them.
+#pragma once
+
+#include <QString>
+#include <QTreeWidget>
+
+#include "window/controls/TypeAhead.h"
+
+/// Typing finds a game by the beginning of its name, also inside a group that is closed.
+class GameTree : public QTreeWidget {
+    Q_OBJECT
+public:
+    explicit GameTree(const QString& name, QWidget* parent = nullptr);
+
+    QTreeWidgetItem* AddRoot(const QString& text);
+    /// A game node: its Tag is the game's SiD.
+    static QTreeWidgetItem* AddGame(QTreeWidgetItem* parent, const QString& text, int SiD);
+    static QTreeWidgetItem* AddGroup(QTreeWidgetItem* parent, const QString& text);
+    /// Sorts the games under a root by name, ignoring case.
+    static void SortChildren(QTreeWidgetItem* root);
+
+    /// The SiD of a game node, 0 for a root, a group or no node.
+    [[nodiscard]] static int Tag(const QTreeWidgetItem* item);
+
+    void keyboardSearch(const QString& typed) override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    TypeAhead typeAhead_;
+    bool shown_ = false;
+};

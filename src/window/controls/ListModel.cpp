@@ -1,0 +1,83 @@
+// The list of texts and its view.
+#include "window/controls/ListModel.h"
+
+#include <utility>
+
+#include <QHeaderView>
+#include <QStyledItemDelegate>
+#include <QTreeView>
+
+#include "window/controls/mDialog.h"
+
+namespace {
+
+/// Rows with as much air as those of a table.
+class Rows : public QStyledItemDelegate {
+public:
+    explicit Rows(QTreeView* list) : QStyledItemDelegate(list), list_(list) {}
+
+    [[nodiscard]] QString displayText(const QVariant& value, const QLocale& locale) const override {
+        return mDialog::Padded(QStyledItemDelegate::displayText(value, locale));
+    }
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override {
+        return {QStyledItemDelegate::sizeHint(option, index).width(), mDialog::RowHeight(list_)};
+    }
+
+private:
+    QTreeView* list_;
+};
+
+}  // namespace
+
+ListModel::ListModel(QString heading, const QIcon& icon, Qt::AlignmentFlag side)
+    : TableModel({{.Heading = std::move(heading), .Side = side}}) {
+    SetIcon(icon);
+}
+
+void ListModel::SetTexts(const std::vector<std::string>& texts) {
+    std::vector<std::vector<std::string>> rows;
+    rows.reserve(texts.size());
+    for (const std::string& text : texts) rows.push_back({text});
+    SetRows(std::move(rows));
+}
+
+int ListModel::Row(const QString& text) const {
+    for (int row = 0; row < rowCount(); ++row) {
+        if (Text(row, 0) == text) return row;
+    }
+    return -1;
+}
+
+namespace mList {
+
+QTreeView* MakeView(const char* name, ListModel* model) {
+    auto* view = new QTreeView;
+    view->setObjectName(QLatin1String(name));
+    view->setRootIsDecorated(false);
+    view->setItemsExpandable(false);
+    view->setUniformRowHeights(true);
+    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    view->setItemDelegate(new Rows(view));
+    view->setModel(model);
+    model->setParent(view);
+    view->setHeaderHidden(model->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString().isEmpty());
+    return view;
+}
+
+QString Selected(const QTreeView* view) {
+    const QModelIndexList rows = view->selectionModel()->selectedRows();
+    return rows.isEmpty() ? QString() : rows.constFirst().data().toString();
+}
+
+void Select(QTreeView* view, int row) {
+    const QModelIndex index = view->model()->index(row, 0);
+    if (!index.isValid()) {
+        view->clearSelection();
+        return;
+    }
+    view->setCurrentIndex(index);
+    view->scrollTo(index);
+}
+
+}  // namespace mList

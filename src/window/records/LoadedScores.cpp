@@ -1,0 +1,18 @@
+// Loading and closing the store for a view.
+#include "window/records/LoadedScores.h"
+
+#include "engine/records/cScore.h"
+#include "window/controls/mDialog.h"
+
+LoadedScores::LoadedScores() : wasLoaded_(gScore->IsLoaded()) {
+    {
+        const mDialog::BusyPointer busy;
+        gScore->OpenAllScore();
+    }
+    gScore->ReportUnread();
+}
+
+LoadedScores::~LoadedScores() {
+    // The records are gone already where an error of the program's own ends it under an open view.
+    if (gScore && !wasLoaded_) gScore->CloseScore();
+}

@@ -1,0 +1,73 @@
+// The dialog "Play from Favorites".
+#include "window/records/frmPlayFav.h"
+
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QPushButton>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+#include "engine/commands/mGen.h"
+#include "engine/commands/mSelect.h"
+#include "engine/records/mFavourites.h"
+#include "engine/state/cData.h"
+#include "window/controls/ListModel.h"
+#include "window/controls/mDialog.h"
+#include "window/look/ilsIcons.h"
+
+frmPlayFav::frmPlayFav(QWidget* owner) : QDialog(owner) {
+    setObjectName(QStringLiteral("frmPlayFav"));
+    setWindowTitle(tr("Play from Favorites"));
+    BuildControls();
+    Load();
+    connect(cmGames, &QComboBox::currentIndexChanged, this, &frmPlayFav::UpdateLVFav);
+    connect(lvFav->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { cmdPlay->setEnabled(!mList::Selected(lvFav).isEmpty()); });
+    connect(lvFav, &QTreeView::doubleClicked, this, &frmPlayFav::Play);
+    connect(cmdPlay, &QPushButton::clicked, this, &frmPlayFav::Play);
+    connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void frmPlayFav::BuildControls() {
+    cmGames = mDialog::MakeCombo("cmGames");
+    favourites_ = new ListModel(QString(), {}, Qt::AlignRight);
+    lvFav = mList::MakeView("lvFav", favourites_);
+    lvFav->setAccessibleName(tr("Favorites of the game"));
+
+    cmdPlay = new QPushButton(tr("Play"));
+    cmdPlay->setObjectName(QStringLiteral("cmdPlay"));
+    cmdCancel = new QPushButton(tr("Cancel"));
+    cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(cmdPlay, QDialogButtonBox::AcceptRole);
+    buttons->addButton(cmdCancel, QDialogButtonBox::RejectRole);
+
+    auto* all = new QVBoxLayout(this);
+    all->addLayout(mDialog::Labelled(tr("&Game:"), cmGames));
+    all->addWidget(lvFav, 1);
+    all->addWidget(buttons);
+    cmdPlay->setDefault(true);  // in the dialog by now, which only then remembers it
+    mDialog::FirstSize(this, {fontMetrics().averageCharWidth() * 48, fontMetrics().height() * 20});
+}
+
+void frmPlayFav::Load() {
+    mFavourites::Open();
+    mDialog::FillCombo(cmGames, ilsIcons::Game(), mSelect::Games(), gData->LastGName());
+    UpdateLVFav();
+}
+
+void frmPlayFav::UpdateLVFav() {
+    favourites_->SetTexts(mFavourites::Numbers(cmGames->currentText().toStdString()));
+    mList::Select(lvFav, favourites_->rowCount() - 1);
+    cmdPlay->setEnabled(favourites_->rowCount() > 0);
+}
+
+void frmPlayFav::Play() {
+    const QString number = mList::Selected(lvFav);
+    if (number.isEmpty()) return;
+    // What a game won by its very first moves leads to waits until the dialog is done with.
+    const mGen::Action action;
+    hide();
+    mFavourites::Play(cmGames->currentText().toStdString(), number.toStdString());
+    accept();
+}

@@ -1,0 +1,215 @@
+// Charts with Qt Charts.
+#include "window/records/mCharts.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <map>
+
+#include <QFontMetricsF>
+#include <QGraphicsLayout>
+#include <QWidget>
+#include <QtCharts/QBarSet>
+#include <QtCharts/QCategoryAxis>
+#include <QtCharts/QChart>
+#include <QtCharts/QLegendMarker>
+#include <QtCharts/QStackedBarSeries>
+
+#include "window/controls/mDialog.h"
+
+namespace {
+
+constexpr int Margin = 4;  // pixels around a chart
+
+using mPlot::Kind;
+using mPlot::Plot;
+
+QColor SeriesColor(Kind kind, std::size_t series, const QPalette& palette) {
+    struct Shades {
+        QColor Light, Dark;  // on a light and on a dark desktop
+    };
+    static const Shades Won{QColor(46, 125, 50), QColor(102, 187, 106)};
+    static const Shades Lost{QColor(183, 57, 46), QColor(239, 108, 96)};
+    static const Shades Played{QColor(84, 110, 122), QColor(144, 164, 174)};
+    static const Shades Score{QColor(123, 31, 162), QColor(206, 147, 216)};
+    static const Shades Moves{QColor(21, 101, 192), QColor(100, 181, 246)};
+    static const Shades Time{QColor(198, 110, 0), QColor(255, 183, 77)};
+    static const std::array efforts{Score, Moves, Time};
+    static const std::array results{Won, Lost};
+    static const std::array periods{Played, Won};
+    const Shades& shades = kind == Kind::Result    ? results.at(series)
+                           : kind == Kind::Periods ? periods.at(series)
+                                                   : efforts.at(series);
+    return mDialog::IsDark(palette) ? shades.Dark : shades.Light;
+}
+
+/// The part of a place that its bar fills: few bars are not to become walls.
+double BarWidth(Kind kind, const Plot& plot) {
+    if (kind == Kind::Periods) return 0.95;  // the gap between the points is a place of its own
+    if (kind != Kind::Strips) return 0.5;
+    constexpr double Usual = 0.75;
+    constexpr double Fewest = 8.0;
+    return Usual * std::min(1.0, (plot.Places + 1.0) / Fewest);
+}
+
+/// One series of stacked bars draws them all: under each bar lies an unseen one that lifts it to its place.
+/// So bars stand where the plot says, one over the other or side by side, and each has its own colour.
+QStackedBarSeries* Stack(Kind kind, const mStatistics::ChartData& data, const Plot& plot,
+                         const QPalette& palette) {
+    const std::size_t count = data.Labels.size();
+    std::vector<QVector<double>> lifts(count, QVector<double>(plot.Places, 0.0));
+    std::vector<QVector<double>> heights = lifts;
+    QVector<double> reached(plot.Places, 0.0);
+    for (auto bar = plot.Bars.rbegin(); bar != plot.Bars.rend(); ++bar) {
+        const auto series = static_cast<std::size_t>(bar->Series);
+        lifts[series][bar->Place] = bar->Bottom - reached[bar->Place];
+        heights[series][bar->Place] = bar->Top - bar->Bottom;
+        reached[bar->Place] = bar->Top;
+    }
+    auto* stack = new QStackedBarSeries;
+    stack->setBarWidth(BarWidth(kind, plot));
+    for (std::size_t series = count; series-- > 0;) {
+        auto* lift = new QBarSet(QString());
+        lift->append(lifts[series]);
+        lift->setBrush(Qt::NoBrush);
+        lift->setPen(Qt::NoPen);
+        auto* bars = new QBarSet(QString::fromStdString(data.Labels[series]));
+        bars->append(heights[series]);
+        bars->setBrush(SeriesColor(kind, series, palette));
+        bars->setPen(Qt::NoPen);
+        stack->append(lift);
+        stack->append(bars);
+    }
+    return stack;
+}
+
+/// Labels are read as HTML: a second line stands out.
+QString AsHtml(const std::string& text) {
+    const QStringList lines = QString::fromStdString(text).toHtmlEscaped().split(QLatin1Char('\n'));
+    if (lines.size() == 1) return lines.constFirst();
+    return QStringLiteral("<center>%1<br/><b>%2</b></center>").arg(lines.constFirst(), lines.at(1));
+}
+
+/// What keeps a label from the next one.
+double Space(const QWidget* view) { return 1.5 * QFontMetricsF(view->font()).averageCharWidth(); }
+
+/// The width of the widest label along the axis, in pixels.
+double LabelWidth(const Plot& plot, const QWidget* view) {
+    QFont font = view->font();
+    font.setBold(plot.Heights.empty());  // then the labels hold the values
+    const QFontMetricsF metrics(font);
+    double width = 1;
+    for (const mPlot::Label& label : plot.Points) {
+        for (const QString& line : QString::fromStdString(label.Text).split(QLatin1Char('\n'))) {
+            width = std::max(width, metrics.horizontalAdvance(line));
+        }
+    }
+    return width;
+}
+
+void Style(QAbstractAxis* axis, const QWidget* view) {
+    QColor grid = view->palette().color(QPalette::WindowText);
+    constexpr int Faint = 40;
+    grid.setAlpha(Faint);
+    axis->setLabelsBrush(view->palette().windowText());
+    axis->setLabelsFont(view->font());
+    axis->setTruncateLabels(false);
+    axis->setGridLinePen(QPen(grid, 1));
+    axis->setLinePen(QPen(grid, 1));
+}
+
+QCategoryAxis* Axis(double low, double high, const QWidget* view) {
+    auto* axis = new QCategoryAxis;
+    axis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
+    axis->setRange(low, high);
+    Style(axis, view);
+    return axis;
+}
+
+/// Writes other labels on an axis, where they are others.
+void Replace(QAbstractAxis* onAxis, const std::vector<mPlot::Label>& labels) {
+    auto* axis = qobject_cast<QCategoryAxis*>(onAxis);
+    QStringList texts;
+    std::map<QString, int> seen;
+    for (const mPlot::Label& label : labels) {
+        const QString text = AsHtml(label.Text);
+        // The axis refuses a label that it has, and every strip has a 0. What tells them apart has no width.
+        texts << text + QString(seen[text]++, QChar(0x200B));
+    }
+    if (texts == axis->categoriesLabels()) return;
+    for (const QString& text : axis->categoriesLabels()) axis->remove(text);
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        axis->append(texts.at(static_cast<qsizetype>(i)), labels[i].At);
+    }
+}
+
+void ShowLegend(QChart* chart, const QWidget* view) {
+    QLegend* legend = chart->legend();
+    legend->setLabelBrush(view->palette().windowText());
+    legend->setFont(view->font());
+    legend->setReverseMarkers(true);  // the stack is built from its foot
+    for (QLegendMarker* marker : legend->markers()) {
+        marker->setVisible(!marker->label().isEmpty());
+        marker->setPen(QPen(marker->brush().color()));
+    }
+}
+
+}  // namespace
+
+namespace mCharts {
+
+QChart* Build(Kind kind, const mStatistics::ChartData& data, const Plot& plot, const QWidget* view) {
+    auto* chart = new QChart;
+    chart->setBackgroundVisible(false);
+    chart->layout()->setContentsMargins(0, 0, 0, 0);
+    auto* stack = Stack(kind, data, plot, view->palette());
+    chart->addSeries(stack);
+
+    constexpr double Headroom = 0.03;
+    auto* points = Axis(-0.5, std::max(1, plot.Places) - 0.5, view);
+    auto* heights = Axis(0.0, 1.0 + Headroom, view);
+    points->setGridLineVisible(false);
+    heights->setVisible(!plot.Heights.empty());
+    chart->addAxis(points, Qt::AlignBottom);
+    chart->addAxis(heights, Qt::AlignLeft);
+    stack->attachAxis(points);
+    stack->attachAxis(heights);
+    if (kind == Kind::Periods || kind == Kind::Strips) {
+        ShowLegend(chart, view);
+    } else {
+        chart->legend()->hide();  // each bar has its name below it
+    }
+    return chart;
+}
+
+void WriteLabels(QChart* chart, const Plot& plot, const QWidget* view) {
+    const QRectF area = chart->plotArea();
+    if (plot.Points.empty() || area.isEmpty()) return;
+    const auto count = static_cast<double>(plot.Points.size());
+    const double width = LabelWidth(plot, view);
+    // Half of the last label may stand beyond its point.
+    const int beyond = std::max(0, static_cast<int>((width - view->width() / count) / 2));
+    chart->setMargins(QMargins(Margin, Margin, Margin + beyond, Margin));
+    const auto step = static_cast<std::size_t>(mPlot::LabelStep(width + Space(view), area.width() / count));
+    std::vector<mPlot::Label> points;
+    for (std::size_t i = (plot.Points.size() - 1) % step; i < plot.Points.size(); i += step) {
+        if (!plot.Points[i].Text.empty()) points.push_back(plot.Points[i]);
+    }
+    Replace(chart->axes(Qt::Horizontal).constFirst(), points);
+    const double line = QFontMetricsF(view->font()).height() + 2;
+    Replace(chart->axes(Qt::Vertical).constFirst(), mPlot::Spaced(plot.Heights, line / area.height()));
+}
+
+int FullWidth(const Plot& plot, const QWidget* view) {
+    const double labels = (LabelWidth(plot, view) + Space(view)) * static_cast<double>(plot.Points.size());
+    return static_cast<int>(std::ceil(labels)) + 6 * Margin;  // those of the layout are inside
+}
+
+int PlaceAt(const QChart* chart, const Plot& plot, const QPointF& position) {
+    if (!chart->plotArea().contains(chart->mapFromScene(position))) return -1;
+    const double part =
+        (chart->mapFromScene(position).x() - chart->plotArea().left()) / chart->plotArea().width();
+    return std::clamp(static_cast<int>(part * plot.Places), 0, plot.Places - 1);
+}
+
+}  // namespace mCharts

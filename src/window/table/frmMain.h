@@ -1,0 +1,61 @@
+// The main window: menus, toolbar, status texts and the table. Each command forwards to mMain.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include "engine/commands/mMain.h"
+
+class QAction;
+class QToolBar;
+class StatusStrip;
+class TableView;
+class TableZoom;
+class WindowState;
+
+class frmMain : public QMainWindow {
+    Q_OBJECT
+public:
+    frmMain();
+
+    /// Builds what a game needs and starts the timers. gData exists already.
+    void Load();
+
+    [[nodiscard]] TableView* Table() const { return PicBack; }
+    /// Shows the recent games in the menu; an empty name is a free slot.
+    void ShowRecent(const std::vector<std::string>& names);
+    /// Shows or hides the toolbar by its setting.
+    void LayoutTable();
+    /// The selection dialog, modally over this window.
+    void SelectGame();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildMenus();
+    void BuildToolbar();
+    void BuildTable();
+    void BuildTimers();
+    void TickMain();
+    void TickStatus();
+    void ShowStates(const mMain::CommandStates& states);
+    void FollowReplay();
+
+    QToolBar* Toolbar1 = nullptr;
+    QWidget* PicMain = nullptr;
+    TableView* PicBack = nullptr;
+    StatusStrip* status_ = nullptr;
+    TableZoom* zoom_ = nullptr;
+    WindowState* state_ = nullptr;
+    std::array<QAction*, 6> mRecent{};  // 1 to 5
+    QTimer tmrMain{this}, tmrTime{this}, tmrForward{this}, tmrBackward{this};
+    std::vector<std::string> recent_;
+    mMain::CommandStates states_;
+    bool statesShown_ = false;
+    bool closeWanted_ = false;  // asked for in the middle of a deal
+};

@@ -1,0 +1,90 @@
+// What a screen reader reads of the table: names of cards and piles, and what lies at a point.
+#include <set>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "engine/commands/mGen.h"
+#include "engine/commands/mReader.h"
+#include "engine/state/cData.h"
+#include "engine/state/cPlate.h"
+#include "support/Fixture.h"
+
+namespace {
+
+using mReader::PilePlace;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::MatchesRegex;
+
+class Reader : public testing::Test {
+protected:
+    Engine engine_;
+};
+
+TEST_F(Reader, PilesSayNameNumberAndCountOrWhatAnEmptyOneTakes) {
+    TestGame game;
+    game.Res.Piles = 1;
+    mPosition::Begin(game);
+    mPosition::Lay(Home, 1, "KS");
+    mPosition::Lay(Home, 2, "QS (4C) 2H");
+    mPosition::Lay(Waste, 0, "9D 8D");
+    cPlate::ForEachMark([](MarkKind kind, int index) {
+        if (index == 0) PicBack.ShowMark(kind, index, EmptyMark, 0, 0);
+    });
+    PicBack.SetMarkPicture(MarkKind::Right, 0, PlainMark);
+    PicBack.ShowMark(MarkKind::Home, 3, 12, 0, 0);
+    PicBack.ShowMark(MarkKind::Right, 1, 0, 0, 0);
+    PicBack.ShowMark(MarkKind::Right, 2, 5, 0, 0);
+    std::vector<std::string> texts;
+    for (const PilePlace& pile : mReader::Piles()) texts.push_back(mReader::PileText(pile));
+    EXPECT_THAT(texts,
+                ElementsAre("Tableau pile 1, empty", "Tableau pile 2, 1 card", "Tableau pile 3, 3 cards",
+                            "Tableau pile 4, empty, takes a King", "Stock, empty", "Waste, 2 cards",
+                            "Foundation pile 1, empty", "Foundation pile 2, empty, takes an Ace",
+                            "Foundation pile 3, empty, takes a Six", "Reserve, empty"));
+    const PilePlace stock{Stock, 0};
+    PicBack.SetMarkPicture(MarkKind::Stock, 0, NoRedealMark);
+    EXPECT_EQ(mReader::PileText(stock), "Stock, empty, no redeal");
+    PicBack.SetMarkPicture(MarkKind::Stock, 0, RedealMark);
+    EXPECT_EQ(mReader::PileText(stock), "Stock, empty, a redeal is possible");
+    EXPECT_EQ(mReader::CardText(mPosition::Card("4C")), "Face-down card");
+    EXPECT_EQ(mReader::CardText(mPosition::Card("2H")), "Two of Hearts");
+}
+
+TEST_F(Reader, APointShowsWhatLiesInFront) {
+    mPosition::Begin({});
+    mPosition::Lay(Home, 0, "KS QH");
+    mPosition::Lay(Waste, 0, "9D 8D");
+    PicBack.ShowMark(MarkKind::Home, 1, EmptyMark, gGames->GetCordX(Home, 1, 0),
+                     gGames->GetCordY(Home, 1, 0));
+    const PilePlace first{Home, 0};
+    const PilePlace second{Home, 1};
+    const PilePlace waste{Waste, 0};
+    const mReader::Area king = mReader::CardArea(mPosition::Card("KS"));
+    const Point index{king.Left + 10, king.Top + 10};  // above the Queen
+    const Point middle{king.Left + CardWidth / 2, king.Top + CardHeight / 2};
+
+    EXPECT_EQ(mReader::PileAt(index), first);
+    EXPECT_EQ(mReader::PosAt(first, index), 0);
+    EXPECT_EQ(mReader::PosAt(first, middle), 1);
+    EXPECT_EQ(mReader::PileArea(first), (mReader::Area{king.Left, king.Top, CardWidth, CardHeight + 250}));
+    EXPECT_EQ(mReader::PileAt({king.Left + 1200, king.Top}), second);
+    EXPECT_EQ(mReader::PosAt(second, {king.Left + 1200, king.Top}), -1);
+    EXPECT_EQ(mReader::PileAt({king.Left + CardWidth, king.Top}), std::nullopt);
+    EXPECT_FALSE(mReader::IsCovered(first, 0));
+    EXPECT_TRUE(mReader::IsCovered(waste, 0));
+    EXPECT_FALSE(mReader::IsCovered(waste, 1));
+
+    // In the hand over the tableau: seen there, and still a card of its pile.
+    const int held = mPosition::Card("8D");
+    PicBack.ToFront(held);
+    PicBack.Move(held, king.Left, king.Top);
+    EXPECT_EQ(mReader::PileAt(index), waste);
+    EXPECT_EQ(mReader::PosAt(waste, index), 1);
+    EXPECT_FALSE(mReader::IsCovered(waste, 0));
+}
+
+}  // namespace

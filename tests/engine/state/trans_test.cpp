@@ -1,0 +1,124 @@
+// The log: groups, speeds and sounds, length, the rows of the history.
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "engine/commands/mMain.h"
+#include "engine/state/cArray.h"
+#include "engine/state/cData.h"
+#include "engine/state/cTrans.h"
+#include "support/Script.h"
+
+namespace {
+
+using mPosition::Card;
+using testing::ElementsAre;
+
+class TransactionLog : public RulesTest {
+protected:
+    static void Move(const char* card, int Cell, int Pile) {
+        gArray->MoveCard(Card(card), Cell, Pile, gArray->GetTop(Cell, Pile) + 1, tMod::Play, 0);
+    }
+};
+
+TEST_F(TransactionLog, AGroupIsOneStep) {
+    mPosition::Begin({});
+    mPosition::Lay(Home, 0, "2C 3C 4C 5C 6C");
+    Move("6C", Home, 1);
+    gTrans->StartMulti();
+    Move("5C", Home, 2);
+    gTrans->StartMulti();
+    Move("4C", Home, 2);
+    gTrans->EndMulti();
+    Move("3C", Home, 2);
+    gTrans->EndMulti();
+    Move("2C", Home, 2);
+    std::string marks;
+    for (int i = 1; i <= 5; ++i) marks += std::to_string(gTrans->Record(i).Multi);
+    EXPECT_EQ(marks, "01100");
+    gTrans->Undo(0);
+    EXPECT_EQ(gTrans->GetTransID(), 4);
+    gTrans->Undo(0);
+    EXPECT_EQ(gTrans->GetTransID(), 1);
+    EXPECT_EQ(mPosition::Pile(Home, 0), "2C 3C 4C 5C");
+    gTrans->Redo(0);
+    EXPECT_EQ(gTrans->GetTransID(), 4);
+    EXPECT_EQ(mPosition::Pile(Home, 2), "5C 4C 3C");
+}
+
+// In a group only the record that moves first has the caller's speed; the others make one step.
+TEST_F(TransactionLog, SpeedAndSound) {
+    struct Row {
+        int Cards;  // of the group; 1 is a single move
+        int Speed;
+        long Steps;
+        std::vector<std::string> Sounds;
+    };
+    const Row rows[] = {
+        {1, 0, 0, {}},       {1, 1, 1, {}}, {1, 3, 3, {}}, {1, 4, 4, {"UNDO"}},
+        {3, 4, 6, {"UNDO"}}, {3, 3, 5, {}}, {3, 0, 2, {}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(std::to_string(row.Cards) + " cards, speed " + std::to_string(row.Speed));
+        mPosition::Begin({});
+        mPosition::Lay(Home, 0, "2C 3C 4C");
+        const char* cards[] = {"4C", "3C", "2C"};
+        if (row.Cards > 1) gTrans->StartMulti();
+        for (int i = 0; i < row.Cards; ++i) Move(cards[i], Home, 1);
+        if (row.Cards > 1) gTrans->EndMulti();
+        for (bool (cTrans::*step)(int) : {&cTrans::Undo, &cTrans::Redo}) {
+            engine_.Layer.Stage.Steps = 0;
+            engine_.Layer.Sounds.Played.clear();
+            EXPECT_TRUE((gTrans.get()->*step)(row.Speed));
+            EXPECT_EQ(engine_.Layer.Stage.Steps, row.Steps);
+            EXPECT_EQ(engine_.Layer.Sounds.Played, row.Sounds);
+        }
+    }
+    gData->Set(Setting::SoundUndo, 0);
+    gTrans->Undo(5);
+    gTrans->Redo(5);
+    EXPECT_THAT(engine_.Layer.Sounds.Played, ElementsAre("UNDO")) << "of the Redo";
+}
+
+// A game that wanders on for long loses nothing of its log; the shown count stops at 16 bits.
+TEST_F(TransactionLog, FortyThousandRecords) {
+    mPosition::Begin({});
+    mScript::Lay("H0 2C 3C");
+    constexpr int Records = 40000;
+    for (int i = 0; i < Records; ++i) Move("3C", Home, 1 + i % 3);
+    EXPECT_EQ(gTrans->GetTransID(), Records);
+    EXPECT_EQ(mMain::TickTime()[2], "Moves :40000");
+    EXPECT_EQ(gData->Figures.CurMoves, 32767);
+    gTrans->UndoAll(0);
+    EXPECT_EQ(mPosition::Pile(Home, 0), "2C 3C");
+    gTrans->RedoAll(0);
+    EXPECT_EQ(mPosition::Pile(Home, 1), "3C");
+    EXPECT_EQ(gTrans->CreateLV().back().Columns[0], "40000");
+}
+
+TEST_F(TransactionLog, HistoryRows) {
+    game_.Res.Piles = 2;
+    mPosition::Begin(game_);
+    mScript::Lay("H0 2C KH QS; S (5C); G3 AD");
+    gArray->MoveCard(Card("KH"), Home, 2, 0, tMod::Play, 0, 1);
+    gArray->AddtoWaste(Card("5C"));
+    Move("AD", Res, 1);
+    gTrans->Undo(0);
+    const std::vector<HistoryRow> rows = gTrans->CreateLV();
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_THAT(rows[0].Columns,
+                ElementsAre("1", "Tableau (Pile 1, Card 2)", "Tableau (Pile 3, Card 1)", "2"));
+    EXPECT_THAT(rows[1].Columns, ElementsAre("2", "Stock (Pile 1, Card 1)", "Waste (Pile 1, Card 1)", "1"));
+    EXPECT_THAT(rows[2].Columns,
+                ElementsAre("3", "Foundation (Pile 4, Card 1)", "Reserve (Pile 2, Card 1)", "1"));
+    EXPECT_EQ(rows[0].Style, HistoryStyle::Plain);
+    EXPECT_EQ(rows[1].Style, HistoryStyle::Current);
+    EXPECT_EQ(rows[2].Style, HistoryStyle::Undone);
+    EXPECT_THROW((void)gTrans->Record(0), std::out_of_range);
+    EXPECT_THROW((void)gTrans->Record(4), std::out_of_range);
+}
+
+}  // namespace

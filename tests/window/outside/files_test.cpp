@@ -1,0 +1,345 @@
+// Files and settings on a real disk: torn lines, two writers, a full disk, damaged and locked files.
+#include <array>
+#include <csignal>
+#include <fstream>
+#include <iterator>
+#include <set>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include "support/Child.h"
+#include "window/outside/QtCalendar.h"
+#include "window/outside/QtFiles.h"
+#include "window/outside/QtSettings.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+namespace {
+
+std::string Content(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void Put(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
+
+std::vector<std::string> Names(const std::string& folder) {
+    std::vector<std::string> names;
+    const QDir dir(QString::fromStdString(folder));
+    for (const QString& name : dir.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot)) {
+        names.push_back(name.toStdString());
+    }
+    return names;
+}
+
+class Files : public testing::Test {
+protected:
+    [[nodiscard]] std::string Path(const std::string& name) const {
+        return folder_.path().toStdString() + '/' + name;
+    }
+    [[nodiscard]] std::string Folder() const { return folder_.path().toStdString(); }
+
+    QtFiles files_;
+
+private:
+    QTemporaryDir folder_;
+};
+
+TEST_F(Files, AppendsWholeLinesAfterWhateverTheFileEndsIn) {
+    const std::pair<const char*, const char*> rows[] = {
+        // before, after
+        {"", "a\r\nb\r\n"},
+        {"x\r\n", "x\r\na\r\nb\r\n"},
+        {"x\n", "x\na\r\nb\r\n"},
+        {"x\r\ny", "x\r\ny\r\na\r\nb\r\n"},
+        {"x\r\ny\r", "x\r\ny\r\na\r\nb\r\n"},
+    };
+    for (const auto& [before, after] : rows) {
+        const std::string path = Path("Zoë, 100%.sre");
+        Put(path, before);
+        EXPECT_EQ(files_.AppendLines(path, {"a", "b"}), std::nullopt);
+        EXPECT_EQ(Content(path), after);
+    }
+    EXPECT_EQ(files_.AppendLines(Path("new"), {"first"}), std::nullopt);
+    EXPECT_EQ(Content(Path("new")), "first\r\n");
+}
+
+TEST_F(Files, AShortWriteLeavesTheFileAsItWas) {
+    const std::pair<const char*, std::string> rows[] = {
+        {"a part fits", std::string(90, 'x') + "\r\n"},
+        {"nothing fits", std::string(98, 'x') + "\r\n"},
+        {"a torn line stays torn", std::string(95, 'x')},
+        {"no file before", ""},
+    };
+    for (const auto& [says, before] : rows) {
+        SCOPED_TRACE(says);
+        const std::string path = Path("limited");
+        ::unlink(path.c_str());
+        if (!before.empty()) Put(path, before);
+        EXPECT_TRUE(InChild([&, room = rlimit{100, 100}] {
+            return ::setrlimit(RLIMIT_FSIZE, &room) == 0 &&
+                   files_.AppendLines(path, {std::string(150, 'y')}) == "File too large";
+        }));
+        EXPECT_EQ(Content(path), before);
+        EXPECT_EQ(files_.Exists(path), !before.empty());
+    }
+}
+
+TEST_F(Files, OnlyAFileTakesLines) {
+    ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(files_.AppendLines(Path("pipe"), {"x"}), "It is not a file");
+    EXPECT_EQ(files_.AppendLines(Folder(), {"x"}), "Is a directory");
+    EXPECT_EQ(files_.AppendLines(Path("missing/file"), {"x"}), "No such file or directory");
+}
+
+TEST_F(Files, RightsThatAreMissingAreToldAndNothingChanges) {
+    const std::string folder = Path("closed");
+    ASSERT_EQ(files_.MakeFolder(folder), std::nullopt);
+    Put(folder + "/old", "old\r\n");
+    ::chmod((folder + "/old").c_str(), 0444);
+    ::chmod(folder.c_str(), 0555);
+    ::chmod(Folder().c_str(), 0755);
+    EXPECT_TRUE(InChild([&] {
+        if (!BecomeNobody()) return false;
+        const std::string denied = "Permission denied";
+        return files_.AppendLines(folder + "/new", {"x"}) == denied &&
+               files_.AppendLines(folder + "/old", {"x"}) == denied &&
+               files_.Replace(folder + "/old", "x") == denied && files_.Remove(folder + "/old") == denied &&
+               files_.Rename(folder + "/old", folder + "/other") == denied &&
+               files_.MakeFolder(folder + "/deeper") == denied;
+    }));
+    EXPECT_EQ(Content(folder + "/old"), "old\r\n");
+    EXPECT_THAT(Names(folder), ElementsAre("old"));
+    ::chmod(folder.c_str(), 0755);
+}
+
+TEST_F(Files, ReplacePutsAllOrNothingInPlace) {
+    const std::string path = Path("fav.dat");
+    EXPECT_EQ(files_.Replace(path, "first"), std::nullopt);
+    ::chmod(path.c_str(), 0640);
+    EXPECT_EQ(files_.Replace(path, std::string("second\0!", 8)), std::nullopt);
+    EXPECT_EQ(Content(path), std::string("second\0!", 8));
+    struct stat status {};
+    ASSERT_EQ(::stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777u, 0640u);
+
+    EXPECT_TRUE(InChild([&, room = rlimit{100, 100}] {
+        return ::setrlimit(RLIMIT_FSIZE, &room) == 0 &&
+               files_.Replace(path, std::string(200, 'x')) == "File too large";
+    }));
+    EXPECT_EQ(Content(path), std::string("second\0!", 8));
+
+    ASSERT_EQ(::symlink(path.c_str(), Path("link").c_str()), 0);
+    EXPECT_EQ(files_.Replace(Path("link"), "third"), std::nullopt);
+    EXPECT_EQ(Content(path), "third");
+    EXPECT_THAT(Names(Folder()), ElementsAre("fav.dat", "link"));
+}
+
+TEST_F(Files, RenameNeverOverwrites) {
+    Put(Path("from"), "1");
+    Put(Path("to"), "2");
+    EXPECT_EQ(files_.Rename(Path("from"), Path("to")), "File exists");
+    EXPECT_EQ(Content(Path("from")) + Content(Path("to")), "12");
+    EXPECT_EQ(files_.Remove(Path("to")), std::nullopt);
+    EXPECT_EQ(files_.Rename(Path("from"), Path("to")), std::nullopt);
+    EXPECT_EQ(Content(Path("to")), "1");
+    EXPECT_FALSE(files_.Exists(Path("from")));
+    EXPECT_EQ(files_.Rename(Path("from"), Path("to2")), "No such file or directory");
+}
+
+TEST_F(Files, FoldersAndReading) {
+    EXPECT_EQ(files_.MakeFolder(Path("a/b/c/")), std::nullopt);
+    EXPECT_EQ(files_.MakeFolder(Path("a/b/c/")), std::nullopt);
+    Put(Path("file"), "text");
+    EXPECT_EQ(files_.MakeFolder(Path("file/deeper")), "Not a directory");
+
+    std::string content = "untouched";
+    EXPECT_EQ(files_.Read(Path("missing"), content), "No such file or directory");
+    EXPECT_EQ(content, "untouched");
+    const std::string large(200000, 'x');
+    Put(Path("file"), large);
+    EXPECT_EQ(files_.Read(Path("file"), content), std::nullopt);
+    EXPECT_EQ(content, large);
+}
+
+/// Each test has settings of its own: the folder is Qt's, the application's name is new.
+class Settings : public testing::Test {
+protected:
+    void SetUp() override {
+        const auto* test = testing::UnitTest::GetInstance()->current_test_info();
+        application_ = std::string("Tarnival Test ") + test->name();
+        settings_.SetReport([this](const std::string& text) { reports_.push_back(text); });
+    }
+    void TearDown() override { QDir(QString::fromStdString(Folder())).removeRecursively(); }
+    [[nodiscard]] std::string Get(const QtSettings& store, const std::string& key) const {
+        return store.GetSetting(application_, "Data", key, "default");
+    }
+    void Save(QtSettings& store, const std::string& key, const std::string& value) const {
+        store.SaveSettings(application_, {{"Data", key, value}});
+    }
+    [[nodiscard]] std::string FileName() const { return QtSettings::FileName(application_); }
+    [[nodiscard]] std::string Folder() const { return FileName().substr(0, FileName().rfind('/')); }
+
+    std::string application_;
+    std::vector<std::string> reports_;
+    QtSettings settings_;
+};
+
+TEST_F(Settings, EveryTextComesBackFromTheDisk) {
+    const QStringList texts = QStringLiteral(
+                                  "| | two words |Smith, John|a;b=c|\"quoted\"|100%|%41|@Invalid()|@@|[Data]|"
+                                  "back\\slash|line\nend|-1|00012|Zoë Ångström|日本語|\U0001F0CF|true")
+                                  .split(QLatin1Char('|'));
+    const auto key = [](qsizetype i) { return "key" + std::to_string(i); };
+    for (qsizetype i = 0; i < texts.size(); ++i) Save(settings_, key(i), texts[i].toStdString());
+    // Read by an object of another process, so that nothing can come from memory.
+    EXPECT_TRUE(InChild([&] {
+        const QtSettings other;
+        for (qsizetype i = 0; i < texts.size(); ++i) {
+            if (Get(other, key(i)) != texts[i].toStdString()) return false;
+        }
+        return Get(other, "missing") == "default";
+    }));
+    EXPECT_THAT(Content(FileName()), HasSubstr("key13=-1\n"));
+    EXPECT_THAT(reports_, IsEmpty());
+}
+
+TEST_F(Settings, ValuesSavedTogetherArriveTogether) {
+    Save(settings_, "a", "1");
+    std::set<std::string> seen;
+    std::jthread watch([&](const std::stop_token& stop) {
+        while (!stop.stop_requested()) seen.insert(Content(FileName()));
+    });
+    settings_.SaveSettings(application_, {{"Data", "a", "2"}, {"Data", "b", "3"}, {"Users", "1", "Player1"}});
+    watch = {};
+    const std::string after = "[Data]\na=2\nb=3\n\n[Users]\n1=Player1\n";
+    EXPECT_EQ(Content(FileName()), after);
+    seen.erase("[Data]\na=1\n");
+    seen.erase(after);
+    EXPECT_THAT(seen, IsEmpty());
+}
+
+TEST_F(Settings, TwoProgramsKeepEachOthersValues) {
+    Save(settings_, "mine", "1");
+    EXPECT_TRUE(InChild([&] {
+        QtSettings other;
+        Save(other, "theirs", "2");
+        Save(other, "mine", "3");
+        return true;
+    }));
+    Save(settings_, "new", "4");
+    EXPECT_EQ(Get(settings_, "theirs"), "2");
+    EXPECT_EQ(Get(settings_, "mine"), "3");
+    // A value that another program has changed in the meantime is written although it looks the same here.
+    Save(settings_, "mine", "1");
+    EXPECT_THAT(Content(FileName()), HasSubstr("mine=1\n"));
+}
+
+TEST_F(Settings, ADamagedFileIsSetAsideAndKept) {
+    const std::vector<std::string> damaged = {
+        "[Data\nAutoplay=1\n",
+        "[Data]\nAutoplay=1\nno equals sign here\n",
+        std::string(300, '\0'),
+        std::string("\x7f"
+                    "ELF\x02\x01\0\0\n\n\xff\xfe rubbish",
+                    20),
+    };
+    ASSERT_EQ(Get(settings_, "a"), "default");
+    ASSERT_EQ(QtFiles().MakeFolder(Folder()), std::nullopt);
+    for (std::size_t i = 0; i < damaged.size(); ++i) {
+        SCOPED_TRACE(i);
+        Put(FileName(), damaged[i]);
+        QtSettings store;
+        // No one listens yet when the program reads its first setting.
+        EXPECT_EQ(Get(store, "Autoplay"), "default");
+        std::vector<std::string> told;
+        store.SetReport([&](const std::string& text) { told.push_back(text); });
+        const std::string aside = FileName() + ".damaged-" + std::to_string(i + 1);
+        ASSERT_THAT(told, SizeIs(1));
+        EXPECT_THAT(told[0], HasSubstr(aside));
+        Save(store, "Autoplay", "0");
+        EXPECT_EQ(Content(aside), damaged[i]);
+        EXPECT_EQ(Content(FileName()), "[Data]\nAutoplay=0\n");
+    }
+}
+
+TEST_F(Settings, AFileDamagedWhileTheProgramRunsIsNotOverwritten) {
+    Save(settings_, "a", "1");
+    const std::string rubbish = "[Data]\na=1\n" + std::string(100, '#') + "\nnot a setting";
+    Put(FileName(), rubbish);
+    Save(settings_, "b", "2");
+    EXPECT_EQ(Content(FileName() + ".damaged-1"), rubbish);
+    EXPECT_EQ(Get(settings_, "b"), "2");
+    EXPECT_THAT(Content(FileName()), HasSubstr("b=2\n"));
+    EXPECT_THAT(reports_, SizeIs(1));
+}
+
+TEST_F(Settings, WhatCannotBeWrittenIsKeptReportedOnceAndWrittenLater) {
+    Save(settings_, "a", "1");
+    const std::string folder = Folder();
+    ::chmod(folder.c_str(), 0755);
+    // A folder stands where the file belongs: that stops root, too.
+    ASSERT_EQ(::rename(FileName().c_str(), (folder + "/away").c_str()), 0);
+    ASSERT_EQ(::mkdir(FileName().c_str(), 0755), 0);
+    Save(settings_, "b", "2");
+    Save(settings_, "c", "3");
+    EXPECT_EQ(Get(settings_, "b") + Get(settings_, "c"), "23");
+    ASSERT_THAT(reports_, SizeIs(1));
+    EXPECT_THAT(reports_[0], HasSubstr(FileName() + " could not be written"));
+
+    ASSERT_EQ(::rmdir(FileName().c_str()), 0);
+    ASSERT_EQ(::rename((folder + "/away").c_str(), FileName().c_str()), 0);
+    Save(settings_, "d", "4");
+    EXPECT_EQ(Content(FileName()), "[Data]\na=1\nb=2\nc=3\nd=4\n");
+    EXPECT_THAT(reports_, SizeIs(1));
+}
+
+TEST_F(Settings, AFolderWithoutRightsKeepsValuesInMemory) {
+    Save(settings_, "a", "1");
+    const std::string before = Content(FileName());
+    ::chmod(FileName().c_str(), 0444);
+    ::chmod(Folder().c_str(), 0555);
+    EXPECT_TRUE(InChild([&] {
+        if (!BecomeNobody()) return false;
+        QtSettings store;
+        int reports = 0;
+        store.SetReport([&](const std::string&) { ++reports; });
+        Save(store, "a", "2");
+        Save(store, "b", "3");
+        return Get(store, "a") == "2" && Get(store, "b") == "3" && reports == 1;
+    }));
+    EXPECT_EQ(Content(FileName()), before);
+    ::chmod(Folder().c_str(), 0755);
+}
+
+TEST(Calendar, WritesTheSameDigitsInEveryLocaleAndZone) {
+    const QByteArray zone = qEnvironmentVariableIsSet("TZ") ? qgetenv("TZ") : ":/etc/localtime";
+    const QLocale before;
+    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
+    qputenv("TZ", "UTC-02:00");
+    ::tzset();
+    const QtCalendar calendar;
+    EXPECT_EQ(calendar.Text(1072915200000), "2004-01-01 02:00:00");
+    EXPECT_EQ(calendar.Text(1072915200000 + 3661999), "2004-01-01 03:01:01");
+    EXPECT_GT(calendar.Now(), 1700000000000);
+    QLocale::setDefault(before);
+    qputenv("TZ", zone);
+    ::tzset();
+}
+
+}  // namespace

@@ -1,0 +1,184 @@
+// Players and favourites as the player of the game meets them.
+#include <string>
+#include <tuple>
+
+#include <gmock/gmock.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeView>
+
+#include "engine/records/cScore.h"
+#include "engine/records/mFavourites.h"
+#include "engine/records/mPlayers.h"
+#include "engine/state/cData.h"
+#include "window/DialogTest.h"
+#include "window/records/dlGInput.h"
+#include "window/records/frmOrgFav.h"
+#include "window/records/frmPlayFav.h"
+#include "window/records/frmPlayers.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+class PlayerDialogs : public DialogTest {
+protected:
+    void SetUp() override {
+        DialogTest::SetUp();
+        gData->SetPlayer(2, "Ann", false);
+        gData->SetPlayer(3, "Bob", false);
+    }
+};
+
+TEST_F(PlayerDialogs, TheSelectedPlayerCannotBeDeleted) {
+    gData->SetCurPlayer("Ann");
+    frmPlayers dialog;
+    Open(dialog);
+    auto* list = Find<QTreeView>(dialog, "lvPlayer");
+    EXPECT_THAT(Rows(list), ElementsAre("Player1", "Ann", "Bob"));
+    EXPECT_EQ(Selected(list), "Ann");
+    EXPECT_FALSE(Enabled(dialog, "cmdDelete"));
+    ClickRow(list, list->model()->index(2, 0));
+    EXPECT_TRUE(Enabled(dialog, "cmdDelete"));
+    // The keyboard moves the selection as a click does.
+    QTest::keyClick(list, Qt::Key_Up);
+    EXPECT_EQ(Selected(list), "Ann");
+    EXPECT_FALSE(Enabled(dialog, "cmdDelete"));
+}
+
+TEST_F(PlayerDialogs, TheNameDialogRefusesAndStaysOpen) {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        // old name, typed, message
+        {"", "", "Please Enter a Valid Name"},
+        {"Ann", "", "Please Enter a Valid Name"},
+        {"", "Bob", "Player Exists !"},
+        {"Ann", "Ann", "Player Exists !"},
+    };
+    for (const auto& [old, typed, message] : rows) {
+        layer_.Forms.Messages.clear();
+        dlGInput dialog(QStringLiteral("Add Player"), QLatin1String(old));
+        Open(dialog);
+        EXPECT_EQ(Find<QLabel>(dialog, "Label1")->text(), QStringLiteral("Add Player"));
+        auto* name = Find<QLineEdit>(dialog, "Text1");
+        EXPECT_EQ(name->selectedText(), QLatin1String(old));
+        name->setText(QLatin1String(typed));
+        Click(dialog, "OKButton");
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_TRUE(name->hasFocus());
+        EXPECT_THAT(layer_.Forms.Messages, ElementsAre(message));
+        EXPECT_THAT(mPlayers::Names(), ElementsAre("Player1", "Ann", "Bob"));
+        // A better name ends it.
+        name->setText(QStringLiteral("Cid"));
+        QTest::keyClick(name, Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+        gData->SetPlayer(2, "Ann", false);
+        gData->SetPlayer(4, "", false);
+    }
+}
+
+TEST_F(PlayerDialogs, SelectMakesCurrentAndLeavesTheGameRunning) {
+    mGen::StartGame("Klondike", 1.0);
+    for (const bool byDoubleClick : {false, true}) {
+        frmPlayers dialog;
+        Open(dialog);
+        auto* list = Find<QTreeView>(dialog, "lvPlayer");
+        const QModelIndex row = list->model()->index(byDoubleClick ? 1 : 2, 0);
+        ClickRow(list, row);
+        if (byDoubleClick) {
+            QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                               list->visualRect(row).center());
+        } else {
+            Click(dialog, "cmdSelect");
+        }
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_EQ(gData->CurPlayer(), byDoubleClick ? "Ann" : "Bob");
+    }
+    EXPECT_TRUE(gData->Figures.GameRunning);
+    mGen::CloseGame(0);
+    EXPECT_TRUE(layer_.Files.Exists(cScore::FileName("Ann")));
+}
+
+class FavouriteDialogs : public DialogTest {
+protected:
+    static void Add(const char* game, const GameNumber& number) { ASSERT_TRUE(gScore->AddFav(game, number)); }
+    [[nodiscard]] static QTreeView* Numbers(const QWidget& dialog) {
+        return Find<QTreeView>(dialog, "lvFav");
+    }
+};
+
+TEST_F(FavouriteDialogs, TheRunningDealIsAddedAndToldOf) {
+    mFavourites::AddRunning();
+    EXPECT_THAT(layer_.Forms.Messages, IsEmpty()) << "no game runs";
+    mGen::StartGame("Klondike", 77.0);
+    mFavourites::AddRunning();
+    mGen::StartGame("Klondike", std::string("0078"));
+    mFavourites::AddRunning();
+    EXPECT_THAT(layer_.Forms.Messages,
+                ElementsAre("Game <77> Successfully Added to Favorites Under <Klondike> Folder",
+                            "Game <0078> Successfully Added to Favorites Under <Klondike> Folder"));
+    layer_.Forms.Messages.clear();
+    layer_.Files.Fault = "No space left on device";
+    mFavourites::AddRunning();
+    layer_.Files.Fault.reset();
+    ASSERT_EQ(layer_.Forms.Messages.size(), 1u);
+    EXPECT_THAT(layer_.Forms.Messages[0], testing::HasSubstr("could not be written"));
+    mFavourites::Open();
+    EXPECT_THAT(mFavourites::Numbers("Klondike"), ElementsAre("77", "0078", "0078"))
+        << "what waited is written when a list opens";
+}
+
+TEST_F(FavouriteDialogs, AreOrganizedByGame) {
+    Add("Yukon", 5.0);
+    Add("Klondike", 1.0);
+    Add("Yukon", std::string("3"));
+    Add("Yukon", 5.0);
+    gData->Figures.CurGName = "Yukon";
+    frmOrgFav dialog;
+    Open(dialog);
+    auto* games = Find<QTreeView>(dialog, "lvGames");
+    EXPECT_EQ(games->model()->rowCount(), gData->TotalGames());
+    EXPECT_EQ(Selected(games), "Yukon");
+    EXPECT_TRUE(games->viewport()->rect().contains(games->visualRect(games->currentIndex())))
+        << "the selection is out of sight";
+    EXPECT_THAT(Rows(Numbers(dialog)), ElementsAre("5", "3", "5"));
+    ClickRow(games, games->model()->index(0, 0));
+    EXPECT_THAT(Rows(Numbers(dialog)), IsEmpty());
+
+    // All of all games go at once, without a question.
+    ASSERT_TRUE(Enabled(dialog, "cmdClear"));
+    Click(dialog, "cmdClear");
+    EXPECT_THAT(layer_.Forms.Questions, IsEmpty());
+    EXPECT_FALSE(layer_.Files.Exists(cScore::FavFileName()));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Enabled(dialog, "cmdClear"); }, 2000));
+}
+
+TEST_F(FavouriteDialogs, ArePlayedWithTheirNumberAsText) {
+    Add("Yukon", 5.0);
+    Add("Klondike", 1.0);
+    Add("Yukon", 9.0);
+    gData->SetCurGName("Klondike");
+    mGen::StartGame("Klondike", 1.0);
+    frmPlayFav dialog;
+    Open(dialog);
+    auto* games = Find<QComboBox>(dialog, "cmGames");
+    EXPECT_EQ(games->currentText(), QStringLiteral("Klondike"));
+    EXPECT_TRUE(Enabled(dialog, "cmdPlay"));
+    games->setCurrentIndex(0);
+    EXPECT_THAT(Rows(Numbers(dialog)), IsEmpty());
+    EXPECT_FALSE(Enabled(dialog, "cmdPlay"));
+    games->setCurrentIndex(games->findText(QStringLiteral("Yukon")));
+    EXPECT_THAT(Rows(Numbers(dialog)), ElementsAre("5", "9"));
+    EXPECT_EQ(Selected(Numbers(dialog)), "9") << "the last one is selected";
+    ClickRow(Numbers(dialog), Numbers(dialog)->model()->index(0, 0));
+    Click(dialog, "cmdPlay");
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(gData->Figures.CurGName, "Yukon");
+    EXPECT_EQ(gData->Figures.CurGNo, GameNumber(std::string("5")));
+    ASSERT_EQ(gScore->SesTop(), 1);
+    EXPECT_EQ(gScore->GetSes(1).gName, "Klondike") << "the running game was lost";
+}
+
+}  // namespace
