@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "engine/commands/mGen.h"
+#include "engine/records/cScore.h"
 #include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
 #include "engine/state/cArray.h"
@@ -134,6 +135,14 @@ void FlipAutoplay() {
 void FlipToolbar() {
     gData->Set(Setting::ShowToolbar, gData->Get(Setting::ShowToolbar) != 1 ? 1 : 0);
     gData->Layer().Forms.LayoutTable();
+}
+
+void AddFavourite() {
+    const SessionFigures& figures = gData->Figures;
+    if (!figures.GameRunning) return;
+    if (!gScore->AddFav(figures.CurGName, figures.CurGNo)) return;
+    gData->Layer().Forms.Inform("Game <" + mGameNumber::Text(figures.CurGNo) +
+                                "> Successfully Added to Favorites Under <" + figures.CurGName + "> Folder");
 }
 
 Replay ReplayState() { return replay; }

@@ -32,6 +32,9 @@ void UndoAll(int Speed);
 void RedoAll(int Speed);
 void FlipAutoplay();
 void FlipToolbar();
+/// Adds the running deal to the favourites and tells so; nothing without a running game. One that cannot be
+/// written yet is told of as such.
+void AddFavourite();
 
 // Replay: Undo and Redo driven by two timers of which at most one runs.
 enum class Replay { Stopped, Forward, Backward };

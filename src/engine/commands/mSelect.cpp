@@ -22,12 +22,6 @@ void Start(const std::string& player, const std::string& game, const GameNumber&
 
 namespace mSelect {
 
-std::vector<std::string> Games() {
-    std::vector<std::string> games;
-    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) games.push_back(gData->GetGame(SiD));
-    return games;
-}
-
 void Play(const std::string& player, const std::string& game) { Start(player, game, mFunc::NewGameNo()); }
 
 double LargestNumber() {
@@ -47,6 +41,10 @@ std::optional<std::string> NumberFault(const std::string& typed) {
 
 void PlayNumber(const std::string& player, const std::string& game, const std::string& typed) {
     Start(player, game, typed);
+}
+
+void PlayFavourite(const std::string& game, const std::string& number) {
+    if (!mGen::Dealing()) mGen::StartGame(game, number);
 }
 
 }  // namespace mSelect

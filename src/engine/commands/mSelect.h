@@ -3,12 +3,9 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace mSelect {
 
-/// The names of all games in catalogue order.
-[[nodiscard]] std::vector<std::string> Games();
 /// "Play": makes `player` the current player and starts the game under a fresh number.
 void Play(const std::string& player, const std::string& game);
 /// The largest number of the random range: 10^RangeIndex - 1, at least 0.
@@ -19,5 +16,7 @@ void Play(const std::string& player, const std::string& game);
 [[nodiscard]] std::optional<std::string> NumberFault(const std::string& typed);
 /// "Select" with a number: makes `player` current and starts the deal of that number, kept as typed.
 void PlayNumber(const std::string& player, const std::string& game, const std::string& typed);
+/// Starts a favourite deal; the number goes on as the text that it is. Nothing while cards are being dealt.
+void PlayFavourite(const std::string& game, const std::string& number);
 
 }  // namespace mSelect

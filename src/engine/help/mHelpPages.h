@@ -1,4 +1,4 @@
-// The general help pages, and the search over all pages. Addresses in the pages are those of shell/mRules.h.
+// The general help pages, and the search over all pages. Addresses in the pages are those of mRules.h.
 #pragma once
 
 #include <string>

@@ -1,19 +1,10 @@
 // The favourite deals.
 #include "engine/records/mFavourites.h"
 
-#include "engine/commands/mGen.h"
 #include "engine/records/cScore.h"
 #include "engine/state/cData.h"
 
 namespace mFavourites {
-
-void AddRunning() {
-    const SessionFigures& figures = gData->Figures;
-    if (!figures.GameRunning) return;
-    if (!gScore->AddFav(figures.CurGName, figures.CurGNo)) return;
-    gData->Layer().Forms.Inform("Game <" + mGameNumber::Text(figures.CurGNo) +
-                                "> Successfully Added to Favorites Under <" + figures.CurGName + "> Folder");
-}
 
 void Open() {
     gScore->OpenFav();
@@ -34,10 +25,6 @@ bool CanClear() { return gScore->FavTop() > 0; }
 void Clear() {
     gScore->ClearFav();
     gScore->OpenFav();
-}
-
-void Play(const std::string& gName, const std::string& number) {
-    if (!mGen::Dealing()) mGen::StartGame(gName, number);
 }
 
 }  // namespace mFavourites

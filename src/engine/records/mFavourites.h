@@ -1,14 +1,10 @@
-// The favourite deals: adding the running one, listing those of a game, playing one.
+// The favourite deals as the dialogs list them.
 #pragma once
 
 #include <string>
 #include <vector>
 
 namespace mFavourites {
-
-/// Adds the running deal and tells so; nothing without a running game. One that cannot be written yet is
-/// told of as such.
-void AddRunning();
 
 /// Reads the favourites of all games anew, and reports what could not be read.
 void Open();
@@ -19,7 +15,5 @@ void Open();
 [[nodiscard]] bool CanClear();
 /// Deletes the favourites of all games, without a question.
 void Clear();
-/// Starts the deal; the number goes on as the text that it is. Nothing while cards are being dealt.
-void Play(const std::string& gName, const std::string& number);
 
 }  // namespace mFavourites

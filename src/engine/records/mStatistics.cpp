@@ -7,7 +7,6 @@
 
 #include <fmt/format.h>
 
-#include "engine/commands/mSelect.h"
 #include "engine/records/cScore.h"
 #include "engine/records/mDates.h"
 #include "engine/rules/mFunc.h"
@@ -69,7 +68,7 @@ std::string Round(long long dividend, long long divisor) {
 }
 
 std::vector<std::string> SortedGames() {
-    std::vector<std::string> names = mSelect::Games();
+    std::vector<std::string> names = gData->GameNames();
     std::sort(names.begin(), names.end(), ComesBefore);
     return names;
 }

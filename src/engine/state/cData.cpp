@@ -73,6 +73,14 @@ const std::string& cData::GroupfromGiD(int Gid) const {
 
 const std::string& cData::GroupfromSiD(int SiD) const { return GroupfromGiD(GameAt(SiD).Gid); }
 const std::string& cData::GetGame(int SiD) const { return GameAt(SiD).Name; }
+
+std::vector<std::string> cData::GameNames() const {
+    std::vector<std::string> names;
+    names.reserve(games_.size());
+    for (const Game& game : games_) names.push_back(game.Name);
+    return names;
+}
+
 int cData::MidfromSiD(int SiD) const { return GameAt(SiD).Mid; }
 int cData::GidfromSiD(int SiD) const { return GameAt(SiD).Gid; }
 bool cData::IsOriginal(int SiD) const { return GameAt(SiD).Original; }

@@ -107,6 +107,8 @@ public:
     [[nodiscard]] const std::string& GroupfromSiD(int SiD) const;
     [[nodiscard]] const std::string& GroupfromGiD(int Gid) const;
     [[nodiscard]] const std::string& GetGame(int SiD) const;
+    /// The names of all games, by SiD.
+    [[nodiscard]] std::vector<std::string> GameNames() const;
     [[nodiscard]] int MidfromSiD(int SiD) const;
     [[nodiscard]] int GidfromSiD(int SiD) const;
     [[nodiscard]] bool IsOriginal(int SiD) const;

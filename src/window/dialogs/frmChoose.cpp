@@ -75,7 +75,7 @@ void frmChoose::Load() {
     Text1->setText(QString::fromStdString(mGameNumber::Text(mFunc::NewGameNo())));
     lblRange->setText(QString::fromStdString(mSelect::RangeText()));
     Text1->setAccessibleDescription(lblName->text() + QLatin1Char(' ') + lblRange->text());
-    mDialog::FillCombo(cmGames, ilsIcons::Game(), mSelect::Games(), gData->LastGName());
+    mDialog::FillCombo(cmGames, ilsIcons::Game(), gData->GameNames(), gData->LastGName());
     mDialog::FillCombo(cmPlayer, ilsIcons::Player(), mPlayers::Names(), gData->CurPlayer());
 }
 

@@ -9,7 +9,6 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include "engine/commands/mSelect.h"
 #include "engine/records/mPlayers.h"
 #include "engine/records/mRanking.h"
 #include "engine/state/cData.h"
@@ -83,7 +82,7 @@ void frmHighScore::Load() {
     Mark(top_, mRanking::TopColumns, "Score");
     Mark(games_, mRanking::GameColumns, "Score");
     Mark(players_, mRanking::PlayerColumns, "Score");
-    mDialog::FillCombo(imcGames, ilsIcons::Game(), mSelect::Games(), gData->Figures.CurGName);
+    mDialog::FillCombo(imcGames, ilsIcons::Game(), gData->GameNames(), gData->Figures.CurGName);
     mDialog::FillCombo(imcPlayer, ilsIcons::Player(), mPlayers::Names(), gData->CurPlayer());
     mDialog::FillCombo(imcFin, QIcon(), {mRanking::FinishedKeys.begin(), mRanking::FinishedKeys.end()});
     top_->SetRows(mRanking::TopRows());

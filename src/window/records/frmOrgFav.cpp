@@ -7,7 +7,6 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
-#include "engine/commands/mSelect.h"
 #include "engine/records/mFavourites.h"
 #include "engine/state/cData.h"
 #include "window/controls/ListModel.h"
@@ -58,7 +57,7 @@ void frmOrgFav::BuildControls() {
 
 void frmOrgFav::Load() {
     mFavourites::Open();
-    games_->SetTexts(mSelect::Games());
+    games_->SetTexts(gData->GameNames());
     const int current = games_->Row(QString::fromStdString(gData->Figures.CurGName));
     mList::Select(lvGames, current < 0 ? 0 : current);
     UpdateLVFav();

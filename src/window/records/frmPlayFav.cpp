@@ -52,7 +52,7 @@ void frmPlayFav::BuildControls() {
 
 void frmPlayFav::Load() {
     mFavourites::Open();
-    mDialog::FillCombo(cmGames, ilsIcons::Game(), mSelect::Games(), gData->LastGName());
+    mDialog::FillCombo(cmGames, ilsIcons::Game(), gData->GameNames(), gData->LastGName());
     UpdateLVFav();
 }
 
@@ -68,6 +68,6 @@ void frmPlayFav::Play() {
     // What a game won by its very first moves leads to waits until the dialog is done with.
     const mGen::Action action;
     hide();
-    mFavourites::Play(cmGames->currentText().toStdString(), number.toStdString());
+    mSelect::PlayFavourite(cmGames->currentText().toStdString(), number.toStdString());
     accept();
 }

@@ -5,16 +5,16 @@
 #include <array>
 #include <string_view>
 
-#include "engine/commands/mSelect.h"
 #include "engine/records/RegionalDates.h"
 #include "engine/records/mPlayers.h"
+#include "engine/state/cData.h"
 
 namespace {
 
 QStringList LongGames() {
     constexpr std::size_t Long = 20;  // characters; the longest has 24
     QStringList names;
-    for (const std::string& name : mSelect::Games()) {
+    for (const std::string& name : gData->GameNames()) {
         if (name.size() >= Long) names << QString::fromStdString(name);
     }
     return names;

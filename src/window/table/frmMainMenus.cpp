@@ -10,7 +10,6 @@
 #include <QToolButton>
 
 #include "engine/commands/mGen.h"
-#include "engine/records/mFavourites.h"
 #include "engine/state/cData.h"
 #include "window/dialogs/frmAbout.h"
 #include "window/dialogs/frmChoose.h"
@@ -112,7 +111,7 @@ void frmMain::BuildMenus() {
     entry(replay, "mReplay6", "Sto&p", "", mMain::StopReplay)->setEnabled(false);
 
     QMenu* favourites = menu("mnufav", "Favorites");
-    entry(favourites, "mFav1", "&Add to Favorites", "Ctrl+A", mFavourites::AddRunning);
+    entry(favourites, "mFav1", "&Add to Favorites", "Ctrl+A", mMain::AddFavourite);
     entry(favourites, "mFav2", "&Organize Favorites", "Ctrl+F", [this] { frmOrgFav(this).exec(); });
     favourites->addSeparator();
     entry(favourites, "mFav4", "&Play from Favorites", "Ctrl+P",

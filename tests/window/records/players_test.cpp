@@ -9,6 +9,7 @@
 #include <QLineEdit>
 #include <QTreeView>
 
+#include "engine/commands/mMain.h"
 #include "engine/records/cScore.h"
 #include "engine/records/mFavourites.h"
 #include "engine/records/mPlayers.h"
@@ -110,18 +111,18 @@ protected:
 };
 
 TEST_F(FavouriteDialogs, TheRunningDealIsAddedAndToldOf) {
-    mFavourites::AddRunning();
+    mMain::AddFavourite();
     EXPECT_THAT(layer_.Forms.Messages, IsEmpty()) << "no game runs";
     mGen::StartGame("Klondike", 77.0);
-    mFavourites::AddRunning();
+    mMain::AddFavourite();
     mGen::StartGame("Klondike", std::string("0078"));
-    mFavourites::AddRunning();
+    mMain::AddFavourite();
     EXPECT_THAT(layer_.Forms.Messages,
                 ElementsAre("Game <77> Successfully Added to Favorites Under <Klondike> Folder",
                             "Game <0078> Successfully Added to Favorites Under <Klondike> Folder"));
     layer_.Forms.Messages.clear();
     layer_.Files.Fault = "No space left on device";
-    mFavourites::AddRunning();
+    mMain::AddFavourite();
     layer_.Files.Fault.reset();
     ASSERT_EQ(layer_.Forms.Messages.size(), 1u);
     EXPECT_THAT(layer_.Forms.Messages[0], testing::HasSubstr("could not be written"));
