@@ -25,7 +25,7 @@
 #include "engine/state/cTrans.h"
 #include "support/Columns.h"
 #include "support/Fixture.h"
-#include "support/Hash.h"
+#include "tools/Hash.h"
 #include "tools/RandomPlayer.h"
 
 namespace {
