@@ -29,6 +29,13 @@ TEST_F(Autoplay, TheFoundationPass) {
          "| 2D>H3 | H0 5C; H1 TC 9H; H3 2D; G0 AS #3"},
     });
     EXPECT_THAT(engine_.Layer.Sounds.Played, testing::Contains("AUTOPLAY"));
+    Expect({{"the base rank of the deal", "H0 2D; H1 AS | G=2 auto | H1 AS; G0 2D"}});
+    game_.Goal.AK = -1;
+    Expect({{"an Ace on a King where they are neighbours", "H0 AS; G0 2S-KS | G=2 auto | G0 2S-KS AS"}});
+    game_.Goal.AK = 0;
+    game_.Goal.GoalUpDown = true;
+    Expect({{"down on the upper half", "H0 6S; H1 8S; G2 7S | auto | H1 8S; G2 7S 6S"}});
+    game_.Goal.GoalUpDown = false;
     game_.Res.Piles = 2;
     game_.Stock.StockType = StockType::Open;
     Expect({{"tableau, reserve, waste, open stock",
@@ -49,6 +56,8 @@ TEST_F(Autoplay, SettingAndGameSwitchItOffButNotTheRefill) {
     gData->Set(Setting::Autoplay, 1);
     game_.Ext.cDisAutoPlay = true;
     Expect({{"off by the game", table + "H0 5C AS; H1 9D"}});
+    game_.Ext.cDisAutoPlay = false;
+    Expect({{"foundations before the refill", "H0 5C; W 9D AS | auto | H0 5C; H1 9D; G0 AS #2"}});
 }
 
 TEST_F(Autoplay, CompleteRuns) {
@@ -65,6 +74,9 @@ TEST_F(Autoplay, CompleteRuns) {
         {"not with a King on top of thirteen", "H1 QS-AS KS | auto | ="},
         {"not of two suits", "H1 " + alternating + " | auto | ="},
     });
+    game_.Goal.AK = -1;
+    game_.Goal.Order = RuleCode::EitherSuit;
+    Expect({{"not through the wrap", "H1 2S-KS AS | auto | ="}});
     game_.Goal.Order = RuleCode::UpAlt;
     Expect({{"alternate colours where they build so",
              "H1 " + alternating + " | auto | G1 AS 2H 3S 4H 5S 6H 7S 8H 9S TH JS QH KS"}});
@@ -74,6 +86,17 @@ TEST_F(Autoplay, CompleteRuns) {
         {"built down from the Kings", "H1 AS-KS | auto | G1 KS-AS"},
         {"built down from the Kings: not from an Ace", "H1 KS-AS | auto | ="},
     });
+}
+
+// One foundation may take several runs, and runs lie on foundations that the game does not show.
+TEST_F(Autoplay, WhereCompleteRunsGo) {
+    game_.Ext.GameType = GameType::CompleteRuns;
+    game_.Ext.Cards = 104;
+    game_.Goal.Piles = 1;
+    Expect({{"by suit and deck", "H0 KC'-AC'; H1 KS-AS | auto | G1 AS-KS; G7 AC'-KC' #26"}});
+    EXPECT_EQ(gArray->TotalGoalCards(), 26);
+    game_.Ext.GoalDiv = 4;
+    Expect({{"folded", "H0 KC'-AC'; H1 KS-AS; G3 AC-KC | auto | G1 AS-KS; G3 AC-KC AC'-KC' #26"}});
 }
 
 TEST_F(Autoplay, Refills) {

@@ -1,8 +1,4 @@
 // What may be lifted and where it may lie: the rules of the drag, each as a little play.
-#include <stdexcept>
-
-#include "engine/rules/mFunc.h"
-#include "engine/state/cArray.h"
 #include "engine/state/codes.h"
 #include "support/Script.h"
 
@@ -17,7 +13,6 @@ TEST_F(Moves, WhatIsLifted) {
         {"a run with all above it", "H0 KH QS JD TC | QS>H1 | H0 KH; H1 QS JD TC #1"},
         {"not a closed card under the top", "H0 KH (QS) JD | QS>H1 | ="},
         {"no run: a break in the middle", "H0 KH QS 9D | KH>H1 | ="},
-        {"no run: two of one colour", "H0 KH QD | KH>H1 | ="},
         {"no run from an Ace to a King", "H0 AS KH | AS>H1 | ="},
         {"faces above the lifted card play no part", "H0 KH QS (JD) | KH>H1 | H1 KH QS JD"},
         {"a closed card that is uncovered opens", "H0 (2D) (3D) KH | KH>H1 | H0 (2D) 3D; H1 KH"},
@@ -41,7 +36,6 @@ TEST_F(Moves, WhatIsLifted) {
 TEST_F(Moves, OnACardOfTheTableau) {
     Expect({
         {"a black Queen on a red King", "H0 QS; H1 KH | QS>H1 | H1 KH QS"},
-        {"not a red Queen on a red King", "H0 QD; H1 KH | QD>H1 | ="},
         {"not a King on an Ace", "H0 KS; H1 AH | KS>H1 | ="},
         {"a group by its lowest card", "H0 QS JD; H1 KH | QS>H1 | H1 KH QS JD"},
         {"on a closed card as on an open one", "H0 QS; H1 (KH) | QS>H1 | H1 (KH) QS"},
@@ -84,22 +78,6 @@ TEST_F(Moves, OnAFoundation) {
         {"nothing where complete runs leave", "H0 2S; G2 AS | 2S>G2 | ="},
         {"nothing where complete runs leave: an Ace", "H0 AS | AS>G0 | ="},
     });
-}
-
-// Ways of dealing for which the catalogue has no game yet.
-TEST_F(Moves, DealsThatNoGameHas) {
-    game_.Home.Cards = 12;
-    game_.Home.cHomeType = HomeType::AllButPile4Open;
-    game_.Home.Piles = 6;
-    game_.Waste.Cards = 1;
-    mPosition::Deal(game_, 1.0);
-    for (int pile = 0; pile < 6; ++pile) {
-        EXPECT_EQ(mFunc::CardFaceMode(gArray->GetPicID(Home, pile, 0)), pile == 4 ? 1 : 0) << pile;
-        EXPECT_EQ(mFunc::CardFaceMode(gArray->GetPicID(Home, pile, 1)), 0) << "every top card lies open";
-    }
-    EXPECT_EQ(gArray->GetTop(Waste), 0);
-    EXPECT_EQ(gArray->GetTop(Stock), 38);
-    EXPECT_THROW((void)gGames->Piles(-1), std::out_of_range);
 }
 
 TEST_F(Moves, TheLog) {

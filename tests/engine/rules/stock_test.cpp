@@ -37,8 +37,29 @@ TEST_F(StockTest, Presses) {
              "S (AS-9S) | stock undo stock undo stock undo | = | stock | S (AS-8S); W 9S #1"}});
 }
 
+TEST_F(StockTest, AutoplayFollows) {
+    gData->Set(Setting::Autoplay, 1);
+    Expect({{"a card to the waste", "S (2C) (AS) | stock | S (2C); G0 AS #2"}});
+    game_.Stock.StockMove = StockMove::ThreeToWaste;
+    Expect({{"each of three cards", "S (2C) (AS) (5D) (AD) | stock | S (2C); W 5D; G0 AD; G1 AS #5"}});
+    game_.Stock.StockMove = StockMove::OneToEachPile;
+    Expect({{"a whole row, as a step of its own",
+             "S (5C) (6C) (7C) (AS); H1 2C | stock | H1 2C 7C; H2 6C; H3 5C; G0 AS #5 "
+             "| undo | H0 AS; H1 2C 7C; H2 6C; H3 5C #4 | undo | ="}});
+    game_.Stock.StockNum = StockNum::Redeal;
+    game_.Ext.cRedeals = 1;
+    Expect({{"not the waste turned over", "H0 AS; W 3C | mark | H0 AS; S (3C) #1"}});
+    game_.Ext.cRedealType = RedealType::GatherTableau;
+    Expect({{"a gathered tableau, as a step of its own",
+             "H0 (3C) AS 5D | mark | H0 3C; H2 5D; G0 AS #7 | undo | H0 3C; H1 AS; H2 5D #6"}});
+}
+
 TEST_F(StockTest, Redeals) {
-    Expect({{"no redeal without the mark for one", "W 5C | mark | ="}});
+    game_.Ext.cRedeals = 1;
+    for (const StockNum mark : {StockNum::None, StockNum::NoRedeal}) {
+        game_.Stock.StockNum = mark;
+        Expect({{"no redeal without the mark for one", "W 5C | mark | ="}});
+    }
     game_.Stock.StockNum = StockNum::Redeal;
     game_.Ext.cRedeals = 2;
     Expect({
@@ -47,7 +68,21 @@ TEST_F(StockTest, Redeals) {
         {"the limit", "W 3C 2C | mark stock stock mark stock stock mark | W 3C 2C #8"},
         {"an undone redeal stays counted", "W 3C 2C | mark undo mark undo mark | ="},
         {"an empty waste counts", "S (5C) | mark mark stock mark | W 5C #1"},
+        {"the waste goes onto the stock", "S (5C); W 3C 2C | mark | S (5C) (2C) (3C)"},
     });
+    for (const RedealType kind : {RedealType::WasteToStock, RedealType::GatherTableau}) {
+        game_.Ext.cRedealType = kind;
+        mPosition::Begin(game_);
+        mScript::Lay("W 3C; H0 5D");
+        PicBack.SetMarkPicture(MarkKind::Stock, 0, RedealMark);
+        mMain::StockClick();
+        EXPECT_EQ(gGames->StockNum, StockNum::Redeal);
+        EXPECT_EQ(Picture(), RedealMark) << "one is left";
+        mMain::StockClick();
+        EXPECT_EQ(gGames->StockNum, StockNum::NoRedeal);
+        EXPECT_EQ(Picture(), NoRedealMark) << "that was the last";
+    }
+    game_.Ext.cRedealType = RedealType::WasteToStock;
     game_.Ext.cRedeals = -1;
     Expect({{"without limit", "W 2C | mark stock mark stock mark stock mark stock mark | S (2C)"}});
     game_.Ext.cRedeals = 0;

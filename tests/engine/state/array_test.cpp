@@ -82,7 +82,7 @@ TEST_F(MoveCard, SilentMoves) {
         gArray->MoveCard(Card("5C"), Home, 2, 0, kind);
         EXPECT_EQ(mFunc::CardFaceMode(Card("9D")), 1);
         EXPECT_EQ(gTrans->MaxTrans(), 0);
-        EXPECT_EQ(gArray->GetTop(Home, 0), kind == tMod::UndoRedo ? 0 : 1);
+        EXPECT_EQ(gArray->GetTop(Home, 0), kind == tMod::Reposition ? 1 : 0);
     }
 }
 
@@ -110,6 +110,8 @@ TEST_F(MoveCard, PlacesOutsideTheTables) {
     EXPECT_THROW((void)gArray->GetPicID(Home, 0, 53), std::out_of_range);
     EXPECT_THROW((void)gArray->GetRandom(52), std::out_of_range);
     EXPECT_EQ(gArray->GetPicID(Home, 0, 52), -1);
+    EXPECT_THROW((void)gGames->Piles(-1), std::out_of_range);
+    EXPECT_THROW((void)gGames->Piles(6), std::out_of_range);
 }
 
 }  // namespace
