@@ -5,6 +5,8 @@
 
 #include "engine/state/codes.h"
 
+class cGames;
+
 /// Where a pile group lies, in twips relative to the game's origin.
 struct GroupLayout {
     int StartX = 0;
@@ -82,8 +84,8 @@ struct Definition {
 
 namespace mDefine {
 
-/// Stores a game into gGames through its setters.
-void Apply(const Definition& game);
+/// Stores a game through the setters of `games`.
+void Apply(const Definition& game, cGames& games);
 
 /// Whether every code of a row stands in its list and every count within the limits of the table;
 /// asked when the program is compiled.

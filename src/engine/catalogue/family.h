@@ -13,6 +13,7 @@
 
 #include "engine/catalogue/definition.h"
 #include "engine/state/cData.h"
+#include "engine/state/cGames.h"
 
 namespace mFamily {
 
@@ -30,7 +31,7 @@ template <typename Games>
 void Set(const std::string& name, const Games& games) {
     const auto game = std::find_if(games.begin(), games.end(),
                                    [&](const Definition& candidate) { return candidate.Name == name; });
-    if (game != games.end()) mDefine::Apply(*game);
+    if (game != games.end()) mDefine::Apply(*game, *gGames);
 }
 
 /// A family's table: each row holds the values of these fields of a game, in this order. A field that is

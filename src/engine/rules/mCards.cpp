@@ -1,61 +1,47 @@
-// The deal up to the tableau: foundations, markers, stock, waste and reserve.
+// The deal carried out on the table: each step of it a move, and the markers of the empty piles.
 #include "engine/rules/mCards.h"
+
+#include <vector>
 
 #include "engine/rules/mFunc.h"
 #include "engine/state/cArray.h"
 #include "engine/state/cGames.h"
 #include "engine/state/cPlate.h"
 #include "engine/state/codes.h"
+#include "engine/state/mDeal.h"
 
 namespace mCards {
 
 namespace {
-
-constexpr int Ace = 0;
-constexpr int King = 12;
-
-void PlaceOnGoal(int PicID, int Pile) { gArray->MoveCard(PicID, Goal, Pile, 0, tMod::Deal, 0); }
 
 void ShowAt(MarkKind kind, int index, int Cell, int Pile, int picture) {
     const Point place = gGames->Position(Cell, Pile, 0);
     PicBack.ShowMark(kind, index, picture, place.X, place.Y);
 }
 
-// Aces, Twos or Kings, each on the pile of its deck and suit; for half and half, Aces on the first
-// piles and Kings on the others.
-void PlaceBaseRanks(int count) {
-    const GoalType type = gGames->GoalType();
-    for (int c = 0; c < gGames->TotalCards(); ++c) {
-        const int rank = mFunc::CardNum(c);
-        const int S = mFunc::CardSuitpile(c);
-        bool placed = rank == Number(type) && S < count;
-        if (type == GoalType::AcesAndKings) {
-            placed = (rank == Ace && 2 * S < count) || (rank == King && 2 * S >= count);
-        }
-        if (placed) PlaceOnGoal(c, S);
-    }
+// The cards as the deal sees them.
+mDeal::Faces Faces() {
+    mDeal::Faces cards;
+    for (int c = 0; c < gGames->TotalCards(); ++c) cards.push_back(PicBack.PicCards(c));
+    return cards;
 }
 
-// The deck's first card and the next ones of its rank, until `count` lie.
-void PlaceFirstRank(int count) {
-    gGoalBase = mFunc::CardNum(0);
-    int placed = 0;
-    for (int c = 0; c < gGames->TotalCards() && placed < count; ++c) {
-        if (mFunc::CardNum(c) == gGoalBase) PlaceOnGoal(c, placed++);
-    }
+mDeal::Pack StockCards() {
+    mDeal::Pack stock;
+    for (int Pos = 0; Pos <= gArray->GetTop(Stock); ++Pos) stock.push_back(gArray->GetPicID(Stock, 0, Pos));
+    return stock;
 }
 
-// For each pile the first card of its suit, whose rank the marker shows.
-void PlaceOneOfEachSuit() {
-    constexpr int Suits = 4;
-    for (int c = 0; c < gGames->TotalCards(); ++c) {
-        for (int j = 0; j < gGames->Piles(Goal); ++j) {
-            if (mFunc::CardSuit(c) != j % Suits || gArray->GetTop(Goal, j) >= 0) continue;
-            PlaceOnGoal(c, j);
-            SetGoalMarker(j, j, mFunc::CardNum(c));
-            break;
-        }
-    }
+void Make(const mDeal::Step& step, int Speed) {
+    gArray->MoveCard(step.PicID, step.Cell, step.Pile, step.Pos, tMod::Deal, Speed, 0, step.Closed ? 1 : 0);
+}
+
+// The base cards and the stock build up in one sweep, the other groups card by card.
+constexpr int AtOnce = 0;
+constexpr int InSteps = 1;
+
+void MakeAll(const mDeal::Steps& steps, int Speed) {
+    for (const mDeal::Step& step : steps) Make(step, Speed);
 }
 
 int GoalPicture(int Pile, int count) {
@@ -83,32 +69,20 @@ void HideAll() {
 }
 
 void DealGoal() {
-    const int count = gGames->Cards(Goal);
-    const GoalType type = gGames->GoalType();
-    if (type == GoalType::Twos) gGoalBase = 1;
-    if (type == GoalType::Kings) gGoalBase = King;
-    if (count > 0) {
-        switch (type) {
-            case GoalType::FirstCard:
-                PlaceFirstRank(count);
-                break;
-            case GoalType::OneOfEachSuit:
-                PlaceOneOfEachSuit();
-                break;
-            default:
-                PlaceBaseRanks(count);
-                break;
-        }
-    } else if (type == GoalType::FirstCard) {
-        gGoalBase = static_cast<int>(gArray->Random.Next() * 12.0F);  // Ace to Queen
+    const mDeal::Foundations goal = mDeal::DealGoal(*gGames, Faces(), gArray->Random);
+    const bool ownRanks = gGames->GoalType() == GoalType::OneOfEachSuit;
+    gGoalBase = goal.Base;
+    for (const mDeal::Step& step : goal.Placed) {
+        Make(step, AtOnce);
+        if (ownRanks) SetGoalMarker(step.Pile, step.Pile, mFunc::CardNum(step.PicID));
     }
-    if (type == GoalType::OneOfEachSuit) return;
-    for (int j = 0; j < gGames->Piles(Goal); ++j) SetGoalMarker(j, j, GoalPicture(j, count));
+    if (ownRanks) return;
+    for (int j = 0; j < gGames->Piles(Goal); ++j) SetGoalMarker(j, j, GoalPicture(j, gGames->Cards(Goal)));
 }
 
 void DealMarkers() {
     for (int j = 0; j < gGames->Piles(Res); ++j) SetResMarker(j, j);
-    if (gGames->GameType() == GameType::BaseFills) gGames->EmptyNum = gGoalBase == Ace ? King : gGoalBase - 1;
+    gGames->EmptyNum = mDeal::EmptyNum(*gGames, gGoalBase);
     for (int j = 0; j < gGames->Piles(Home); ++j) {
         if (gGames->EmptyNum >= Ace && gGames->EmptyNum <= PlainMark) {
             SetHomeMarker(j, j, gGames->EmptyNum);
@@ -121,25 +95,49 @@ void DealMarkers() {
 
 void DealStock() {
     if (gGames->StockNum != StockNum::None) SetStockMarker(Number(gGames->StockNum));
-    if (gGames->Piles(Stock) == 0) return;
-    const bool open = gGames->StockType() == StockType::Open;
-    for (int c = 0; c < gGames->TotalCards(); ++c) {
-        if (mFunc::CardCell(c) == Goal) continue;
-        if (gGames->StockType() == StockType::TwoSuits && mFunc::CardSuit(c) >= 2) continue;
-        gArray->MoveCard(c, Stock, 0, gArray->GetTop(Stock) + 1, tMod::Deal, 0, 0, open ? 0 : 1);
-    }
+    std::vector<bool> placed;
+    for (int c = 0; c < gGames->TotalCards(); ++c) placed.push_back(mFunc::CardCell(c) == Goal);
+    MakeAll(mDeal::DealStock(*gGames, Faces(), placed), AtOnce);
 }
 
 void DealWaste() {
-    for (int i = 0; i < gGames->Cards(Waste); ++i) {
-        gArray->MoveCard(gArray->GetTopPicID(Stock), Waste, i, 0, tMod::Deal, 1);
-    }
+    mDeal::Pack stock = StockCards();
+    MakeAll(mDeal::DealWaste(*gGames, stock), InSteps);
 }
 
 void DealRes() {
-    const int piles = gGames->Piles(Res);
-    for (int i = 0; i < gGames->Cards(Res); ++i) {
-        gArray->MoveCard(gArray->GetTopPicID(Stock), Res, i % piles, i / piles, tMod::Deal, 1);
+    mDeal::Pack stock = StockCards();
+    MakeAll(mDeal::DealRes(*gGames, stock), InSteps);
+}
+
+void DealHome() {
+    mDeal::Pack stock = StockCards();
+    MakeAll(mDeal::DealHome(*gGames, Faces(), stock, gArray->Random), InSteps);
+    if (mDeal::OpensTops(gGames->HomeType())) {
+        for (int p = 0; p < gGames->Piles(Home); ++p) {
+            if (gArray->GetTop(Home, p) >= 0) PicBack.SetFaceMode(gArray->GetTopPicID(Home, p), 0);
+        }
+    }
+    if (gGames->MoveKings()) SinkKings();
+}
+
+void SinkKings() {
+    for (int sweep = 0; sweep < mDeal::KingSweeps; ++sweep) {
+        for (int p = 0; p < gGames->Piles(Home); ++p) {
+            std::vector<int> ranks;
+            for (int i = 0; i <= gArray->GetTop(Home, p); ++i) {
+                ranks.push_back(mFunc::CardNum(gArray->GetPicID(Home, p, i)));
+            }
+            const std::vector<int> places = mDeal::SinkKings(ranks);
+            for (const int i : places) {
+                const int king = gArray->GetPicID(Home, p, i);
+                const int other = gArray->GetPicID(Home, p, i - 1);
+                gArray->MoveCard(king, Home, p, i - 1, tMod::Reposition, 0);
+                gArray->MoveCard(other, Home, p, i, tMod::Reposition, 0);
+            }
+            if (places.empty()) continue;
+            for (int i = 0; i <= gArray->GetTop(Home, p); ++i) PicBack.ToFront(gArray->GetPicID(Home, p, i));
+        }
     }
 }
 

@@ -34,80 +34,11 @@ bool SameColor(int A, int B) { return CardColor(A) == CardColor(B); }
 bool AltColor(int A, int B) { return !SameColor(A, B); }
 
 bool RankSuitOK(int A, int B, Direction Dir, SuitRule Rule, bool AK) {
-    constexpr int Ace = 0;
-    constexpr int King = 12;
-    const int a = CardNum(A);
-    const int b = CardNum(B);
-    const bool down = b == a - 1 || (AK && a == Ace && b == King);
-    const bool up = b == a + 1 || (AK && a == King && b == Ace);
-    bool rank = false;
-    switch (Dir) {
-        case Direction::Down:
-            rank = down;
-            break;
-        case Direction::Up:
-            rank = up;
-            break;
-        case Direction::Either:
-            rank = down || up;
-            break;
-    }
-    if (!rank) return false;
-    switch (Rule) {
-        case SuitRule::Same:
-            return SameSuit(A, B);
-        case SuitRule::Alternate:
-            return AltColor(A, B);
-        case SuitRule::Different:
-            return DiffSuit(A, B);
-        case SuitRule::SameColor:
-            return SameColor(A, B);
-        case SuitRule::Any:
-            break;
-    }
-    return true;
+    return mOrder::RankSuitOK(PicBack.PicCards(A), PicBack.PicCards(B), Dir, Rule, AK);
 }
 
 bool OrderOK(int A, int B, RuleCode Order, bool AK) {
-    using enum Direction;
-    const auto fits = [&](Direction Dir, SuitRule Rule) { return RankSuitOK(A, B, Dir, Rule, AK); };
-    switch (Order) {
-        case RuleCode::Never:
-            return false;
-        case RuleCode::DownSuit:
-            return fits(Down, SuitRule::Same);
-        case RuleCode::UpSuit:
-            return fits(Up, SuitRule::Same);
-        case RuleCode::EitherSuit:
-            return fits(Either, SuitRule::Same);
-        case RuleCode::DownAlt:
-            return fits(Down, SuitRule::Alternate);
-        case RuleCode::UpAlt:
-            return fits(Up, SuitRule::Alternate);
-        case RuleCode::EitherAlt:
-            return fits(Either, SuitRule::Alternate);
-        case RuleCode::DownAny:
-            return fits(Down, SuitRule::Any);
-        case RuleCode::UpAny:
-            return fits(Up, SuitRule::Any);
-        case RuleCode::Always:
-            return true;
-        case RuleCode::SameRank:
-            return CardNum(A) == CardNum(B);
-        case RuleCode::EitherAny:
-            return fits(Either, SuitRule::Any);
-        case RuleCode::DownOther:
-            return fits(Down, SuitRule::Different);
-        case RuleCode::DownColor:
-            return fits(Down, SuitRule::SameColor);
-        case RuleCode::UpColor:
-            return fits(Up, SuitRule::SameColor);
-        case RuleCode::EitherColor:
-            return fits(Either, SuitRule::SameColor);
-        case RuleCode::UpOther:
-            return fits(Up, SuitRule::Different);
-    }
-    return false;
+    return mOrder::OrderOK(PicBack.PicCards(A), PicBack.PicCards(B), Order, AK);
 }
 
 bool IsSeq(int PicID, int Count) {

@@ -7,6 +7,7 @@
 #include "engine/state/GameNumber.h"
 #include "engine/state/cGames.h"
 #include "engine/state/codes.h"
+#include "engine/state/mOrder.h"
 
 /// The drag in progress. None of it is kept across two drags, nor by Undo.
 struct DragState {
@@ -38,8 +39,8 @@ namespace mFunc {
 [[nodiscard]] bool SameColor(int A, int B);
 [[nodiscard]] bool AltColor(int A, int B);
 
-enum class Direction : int { Down = -1, Either = 0, Up = 1 };
-enum class SuitRule : int { Same = 1, Alternate = 2, Any = 3, Different = 4, SameColor = 5 };
+using mOrder::Direction;
+using mOrder::SuitRule;
 
 /// Whether card B fits on card A. `AK`: Ace and King are neighbours.
 [[nodiscard]] bool RankSuitOK(int A, int B, Direction Dir, SuitRule Rule, bool AK);

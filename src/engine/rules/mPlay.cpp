@@ -7,6 +7,7 @@
 #include "engine/state/cData.h"
 #include "engine/state/cGames.h"
 #include "engine/state/cPlate.h"
+#include "engine/state/mDeal.h"
 #include "engine/state/mRandom.h"
 
 int gRedealCount = 0;
@@ -60,16 +61,10 @@ void LoadControls() {
 }
 
 void AssignFaces() {
-    constexpr int Ranks = 13;
-    constexpr int DeckCards = 52;
     for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
-        const int value = gArray->GetRandom(PicID);
-        int suit = 0;
-        if (gGames->SuitType() == SuitType::TwoSuits) suit = value % DeckCards / (2 * Ranks);
-        if (gGames->SuitType() == SuitType::FourSuits) suit = value % DeckCards / Ranks;
-        const int rank = value % Ranks;
-        PicBack.SetValue(PicID, suit, rank, value / Ranks);
-        PicBack.SetMainPic(PicID, suit * Ranks + rank + 1);
+        const CardFace card = mDeal::FaceOf(gArray->GetRandom(PicID), gGames->SuitType());
+        PicBack.SetValue(PicID, card.Suit, card.Num, card.Suitpile);
+        PicBack.SetMainPic(PicID, card.Suit * RankCount + card.Num + 1);
         PicBack.ToFront(PicID);
     }
 }

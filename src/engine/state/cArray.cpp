@@ -1,13 +1,12 @@
 // The card table: tables, shuffle, and the move that all play, deal, Undo and Redo go through.
 #include "engine/state/cArray.h"
 
-#include <cstdlib>
-#include <numeric>
 #include <stdexcept>
 
 #include "engine/state/cGames.h"
 #include "engine/state/cPlate.h"
 #include "engine/state/cTrans.h"
+#include "engine/state/mDeal.h"
 
 std::unique_ptr<cArray> gArray;
 
@@ -28,23 +27,7 @@ void cArray::Init(const GameNumber& GameNo) {
     const auto places = static_cast<std::size_t>(CellCount * PileCount * (totalCards_ + 1));
     posTable_.assign(places, -1);
     topTable_.fill(-1);
-    randTable_.assign(static_cast<std::size_t>(totalCards_ + 1), 0);
-    Shuffle(mGameNumber::Value(GameNo));
-}
-
-void cArray::Shuffle(double number) {
-    std::vector<short> work(static_cast<std::size_t>(totalCards_));
-    std::iota(work.begin(), work.end(), short{0});
-    Random.SeedNegative(-10);
-    int rest = totalCards_;
-    for (int i = 0; i < totalCards_; ++i) {
-        Random.Mix(number);
-        --rest;
-        // Rounded, not cut: the ends 0 and `rest` come up half as often as the places between.
-        const int j = RoundToEven(static_cast<double>(Random.Next()) * rest);
-        randTable_[static_cast<std::size_t>(i)] = work[static_cast<std::size_t>(j)];
-        work[static_cast<std::size_t>(j)] = work[static_cast<std::size_t>(rest)];
-    }
+    randTable_ = mDeal::Shuffle(totalCards_, mGameNumber::Value(GameNo), Random);
 }
 
 int cArray::GetRandom(int PicID) const {

@@ -49,7 +49,6 @@ public:
 private:
     static constexpr int PileCount = 21;
 
-    void Shuffle(double number);
     void PlaceCard(int PicID, int DCell, int DPile, int DPos, ::tMod tMod, int Speed, int DFace);
     [[nodiscard]] std::size_t PlaceIndex(int Cell, int Pile, int Pos) const;
     [[nodiscard]] static std::size_t PileIndex(int Cell, int Pile);

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "engine/outside/windowlayer.h"
+#include "engine/state/Card.h"
 
 inline constexpr int CardWidth = 1065;   ///< twips
 inline constexpr int CardHeight = 1440;  ///< twips
@@ -13,10 +14,7 @@ inline constexpr int PlateHeight = 11205;
 inline constexpr int MaxCards = 104;
 
 /// One card. Closed: FaceMode 1; any other value shows the face.
-struct CardRecord {
-    int Suit = 0;      ///< 0 Hearts, 1 Spades, 2 Diamonds, 3 Clubs
-    int Num = 0;       ///< 0 Ace to 12 King
-    int Suitpile = 0;  ///< deck and suit, 0 to 7
+struct CardRecord : CardFace {
     int Cell = 0;
     int Pile = 0;
     int Pos = 0;
@@ -29,8 +27,6 @@ struct CardRecord {
     int DeckPic = 0;        ///< number of the back picture; 0 none yet
     int Order = 0;          ///< place in the front order: a higher one lies in front
 
-    /// 1 red, 2 black.
-    [[nodiscard]] int Color() const { return Suit == 0 || Suit == 2 ? 1 : 2; }
     bool operator==(const CardRecord&) const = default;
 };
 

@@ -92,7 +92,7 @@ TEST_F(Rules, TheSameNumbersReadTheSameAndOthersDoNot) {
 void Begin(const Definition& game, double number) {
     gData->Set(Setting::Autoplay, 1);
     gGames->NewGameStart();
-    mDefine::Apply(game);
+    mDefine::Apply(game, *gGames);
     mCards::HideAll();
     gArray->Init(number);
     mPlay::AssignFaces();
