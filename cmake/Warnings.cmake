@@ -40,3 +40,11 @@ if(TARNIVAL_COVERAGE)
     target_compile_options(tarnival_options INTERFACE --coverage -fprofile-update=atomic)
     target_link_options(tarnival_options INTERFACE --coverage)
 endif()
+
+# What links Qt is compiled without the functions that the oldest version of Qt counts as deprecated; what a newer
+# one has against the rest shows as a warning there.
+add_library(tarnival_qt_options INTERFACE)
+target_link_libraries(tarnival_qt_options INTERFACE tarnival_options)
+# The second is the first's name in Qt 6.4.
+target_compile_definitions(tarnival_qt_options INTERFACE
+    QT_DISABLE_DEPRECATED_UP_TO=0x060400 QT_DISABLE_DEPRECATED_BEFORE=0x060400)

@@ -1,6 +1,6 @@
 // What the monkey does in the main window.
 #include <QAction>
-#include <QApplication>
+#include <QCoreApplication>
 #include <QGraphicsItem>
 #include <QMenu>
 #include <QMenuBar>
@@ -124,7 +124,11 @@ void Monkey::OnTable() {
     } else {
         mDiary::Note("take the mouse away from the window");
         hands_.Move(window_, QPoint(-100, -100));
-        QApplication::setActiveWindow(nullptr);
+        // Another window takes the keyboard away, and is gone again.
+        QWidget elsewhere;
+        elsewhere.show();
+        elsewhere.activateWindow();
+        QCoreApplication::processEvents();
     }
 }
 
