@@ -1,8 +1,9 @@
 """Installs the program into a folder and looks at everything that lies there then.
 
-    install.py BUILD MODULES
+    install.py BUILD MODULES PICTURES
 
-BUILD is the build folder, MODULES the folder of the sound module below the prefix.
+BUILD is the build folder, MODULES the folder of the sound module below the prefix, PICTURES where the pictures
+for software catalogues lie.
 """
 
 import configparser
@@ -13,6 +14,7 @@ import struct
 import subprocess
 import sys
 import tempfile
+import xml.etree.ElementTree
 
 SIZES = [16, 22, 24, 32, 48, 64, 128, 256, 512]
 
@@ -41,7 +43,18 @@ def png_size(path):
     return struct.unpack(">II", head[16:24])
 
 
-def look(prefix, modules):
+def look_at_screenshots(metainfo, pictures):
+    """What a catalogue is told of each picture holds for the file of that name."""
+    images = xml.etree.ElementTree.parse(metainfo).findall(".//screenshot/image")
+    if not images:
+        raise Failure("the metadata name no screenshot")
+    for image in images:
+        name = image.text.rsplit("/", 1)[-1]
+        expect(f"the size of {name}", (int(image.get("width")), int(image.get("height"))),
+               png_size(os.path.join(pictures, name)))
+
+
+def look(prefix, modules, pictures):
     share = os.path.join(prefix, "share")
     wanted = {"games/tarnival", f"{modules}/tarnival-sounds.so", "share/applications/tarnival.desktop",
               "share/metainfo/org.kelmor.Tarnival.metainfo.xml", "share/man/man6/tarnival.6.gz",
@@ -66,6 +79,7 @@ def look(prefix, modules):
 
     clean("appstreamcli", "validate", "--no-net", "--no-color",
           f"{share}/metainfo/org.kelmor.Tarnival.metainfo.xml")
+    look_at_screenshots(f"{share}/metainfo/org.kelmor.Tarnival.metainfo.xml", pictures)
     # The tree as a whole: the entry and the icon that the metadata name are there.
     clean("appstreamcli", "validate-tree", "--no-net", "--no-color", prefix)
     clean("man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z", f"{share}/man/man6/tarnival.6.gz",
@@ -73,13 +87,13 @@ def look(prefix, modules):
 
 
 def main():
-    build, modules = sys.argv[1:]
+    build, modules, pictures = sys.argv[1:]
     # The path goes into the menu entry, where a link to it would not be found again.
     with tempfile.TemporaryDirectory() as folder:
         prefix = os.path.join(os.path.realpath(folder), "usr")
         try:
             clean("cmake", "--install", build, "--prefix", prefix)
-            look(prefix, modules)
+            look(prefix, modules, pictures)
         except Failure as failure:
             print(f"install.py: {failure}", file=sys.stderr)
             return 1
