@@ -58,21 +58,20 @@ void DrawLandscape(Drawing& drawing) {
     drawing.Disc(438, 104, 20, "#fdf0cf");
     for (const auto& [x, y, radius] :
          std::initializer_list<std::tuple<double, double, double>>{{40, 96, 1.2},
-                                                                   {86, 118, 1},
-                                                                   {128, 92, 1.1},
-                                                                   {330, 104, 1.2},
-                                                                   {400, 66, 1.2},
-                                                                   {412, 136, 1},
-                                                                   {60, 140, 0.9},
-                                                                   {300, 92, 0.9},
-                                                                   {200, 98, 1}}) {
+                                                                   {74, 70, 1},
+                                                                   {22, 62, 1.1},
+                                                                   {66, 112, 0.9},
+                                                                   {404, 66, 1.2},
+                                                                   {460, 70, 1},
+                                                                   {408, 122, 0.9}}) {
         drawing.Disc(x, y, radius, "#fff6da");
     }
-    drawing.Fill("M0 196L0 150L50 118L92 146L150 96L214 158L262 128L330 172L392 126L480 176L480 196Z",
+    // The peaks and stars keep clear of the title above them.
+    drawing.Fill("M0 196L0 160L50 134L92 156L150 133L214 166L262 142L330 174L392 138L480 176L480 196Z",
                  "#5b5f8c");
     drawing.Fill(
-        "M150 96L176 121L162 119L150 130L138 118L124 119ZM50 118L66 129L52 130L36 127ZM392 126L412 138L394 "
-        "140L378 137Z",
+        "M150 133L169 144L158 143L150 149L141 143L130 141ZM50 134L63 141L52 142L38 140ZM392 138L410 146L394 "
+        "148L379 146Z",
         "#f6e3d8");
     drawing.Fill("M0 196L0 176C60 158 120 172 180 180C260 190 340 160 480 180L480 196Z", "#2f4a5c");
     drawing.FadeDown("lake", 192, 300, "#c98a72", "#1b2f57");

@@ -107,16 +107,17 @@ const std::vector<Page>& All() {
          {"The score is the same in all games: ten points for each card on the foundations, less one point "
           "for "
           "every three seconds and one for every two moves. It can fall below zero. The base cards that some "
-          "games "
-          "lay on their foundations count from the start.",
+          "games lay on their foundations count from the start.",
           "Each card or run that you move is one move, and so is each card that goes to a foundation by "
-          "itself and "
-          "each card that the stock deals. A card that goes back where it came from is none. Undo gives the "
-          "move "
-          "back, but not the time.",
-          "A game is won when its foundations hold all the cards that they can. Whatever else ends a game "
-          "counts "
-          "as lost: starting another one, closing the game, or closing the window."}},
+          "itself, "
+          "each card that the stock deals and each card of a redeal. A card that goes back where it came "
+          "from is "
+          "none. Undo gives the move back, but not the time.",
+          "A game is won when its foundations hold all the cards that they can. Starting another game, "
+          "closing "
+          "the game or closing the window before that counts as lost. Exit leaves the program without a "
+          "record "
+          "of the running game."}},
         {"statistics",
          "Statistics and high scores",
          {"Every finished game is kept with its player, score, time and moves. Game Statistics sums all of "

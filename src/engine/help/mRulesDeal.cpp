@@ -151,9 +151,9 @@ std::string OpenAndClosedPiles(const std::vector<int>& closed) {
         return "the " + List(piles) + (piles.size() == 1 ? " pile" : " piles");
     };
     if (open.size() <= covered.size()) {
-        return "all cards of " + named(open) + " lie face up; in the other piles only the top card does";
+        return "all cards of " + named(open) + " lie face up; of the other piles only the top card is seen";
     }
-    return "in " + named(covered) + " only the top card lies face up; all cards of the other piles do";
+    return "in " + named(covered) + " only the top card lies face up; the other piles are face up throughout";
 }
 
 std::string LowestCards(int count) {

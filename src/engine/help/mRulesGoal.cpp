@@ -103,7 +103,7 @@ std::string RunText(const Definition& game) {
         case RuleCode::DownAny:
             return "13 cards " + ends + ", whatever their suits";
         case RuleCode::UpOther:
-            return "13 cards " + ends + ", each of another suit than its neighbours";
+            return "13 cards " + ends + ", each of another suit than its neighbors";
         default:
             return "13 cards " + ends + ", " + Suits(game.GoalOrder);
     }

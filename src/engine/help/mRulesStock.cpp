@@ -59,9 +59,10 @@ std::string RedealClause(const Facts& facts) {
                "unshuffled; this can be done " +
                often;
     }
-    return "a click on the empty stock's mark redeals, " + often +
-           ": the cards of the tableau are gathered pile by pile and dealt out again unshuffled, face up, in "
-           "rows over all " +
+    return "the cards can be gathered and dealt anew " + often +
+           ": a click on the stock's mark takes up the tableau pile by pile and deals it out again "
+           "unshuffled, "
+           "face up, in rows over all " +
            Count(facts.Game->HomePiles, "pile") + ", empty ones included";
 }
 
@@ -131,7 +132,7 @@ Paragraphs Reserve(const Facts& facts) {
     }
     if (cards == 0) {
         if (facts.Limited && facts.LiftOrder != RuleCode::Never) {
-            text += " They only count as free places when a run is moved.";
+            text += " They count only as free places when a run is moved.";
         }
         return {text};
     }
@@ -160,9 +161,8 @@ Paragraphs ByItself(const Facts& facts) {
         if (facts.ToWaste) places.emplace_back("the waste");
         if (facts.Stock == StockUse::Open) places.emplace_back("the stock");
         if (!text.empty()) text += ' ';
-        text +=
-            "While Autoplay is on, every top card of " + List(places) +
-            " that fits on a foundation goes there by itself, whether or not you still want it elsewhere.";
+        text += "While Autoplay is on, every top card of " + List(places) +
+                " that fits on a foundation goes there by itself.";
     }
     paragraphs.push_back(text);
     if (facts.Deal.AnyClosed()) {

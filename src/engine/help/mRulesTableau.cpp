@@ -20,7 +20,7 @@ std::string WrapText(Way way, bool wraps) {
             return wraps ? "the ranks go round, so that an Ace goes on a King" : "nothing goes on a King";
         case Way::Either:
             return wraps ? "the ranks go round: an Ace goes on a King, and a King on an Ace"
-                         : "Ace and King are not neighbours";
+                         : "Ace and King are not neighbors";
         case Way::None:
             break;
     }

@@ -145,13 +145,13 @@ std::string Suits(RuleCode code) {
         case SuitWords::Same:
             return "in suit";
         case SuitWords::Alternate:
-            return "in alternating colours";
+            return "in alternating colors";
         case SuitWords::Any:
             return "regardless of suit";
         case SuitWords::Other:
             return "in any suit but the same";
         case SuitWords::Color:
-            return "in the same colour";
+            return "in the same color";
         case SuitWords::None:
             break;
     }

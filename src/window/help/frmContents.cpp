@@ -66,6 +66,13 @@ void frmContents::BuildControls() {
     tvwContents_->setObjectName(QStringLiteral("tvwContents"));
     tvwContents_->setAccessibleName(tr("Contents"));
     tvwContents_->setHeaderHidden(true);
+    // A title that is wider than the tree is scrolled to, not cut.
+    tvwContents_->header()->setStretchLastSection(false);
+    tvwContents_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    lblNothing_ = new QLabel(tr("Nothing holds all of these words."));
+    lblNothing_->setObjectName(QStringLiteral("lblNothing"));
+    lblNothing_->setWordWrap(true);
+    lblNothing_->hide();
     browser_ = new HelpBrowser;
 
     auto* left = new QWidget;
@@ -73,6 +80,7 @@ void frmContents::BuildControls() {
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(label);
     column->addWidget(txtSearch_);
+    column->addWidget(lblNothing_);
     column->addWidget(tvwContents_, 1);
     auto* back = new QPushButton(tr("&Back"));
     back->setObjectName(QStringLiteral("cmdBack"));
@@ -126,6 +134,7 @@ void frmContents::Search() {
     for (const std::string_view key : mHelpPages::FindPages(words)) {
         found.insert(QStringLiteral("page:") + Text(key));
     }
+    lblNothing_->setVisible(found.empty());
     for (int i = 0; i < tvwContents_->topLevelItemCount(); ++i) {
         QTreeWidgetItem* group = tvwContents_->topLevelItem(i);
         bool any = false;

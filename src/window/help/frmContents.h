@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class HelpBrowser;
+class QLabel;
 class QLineEdit;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -22,6 +23,7 @@ private:
     void Follow(const QUrl& address);
 
     QLineEdit* txtSearch_ = nullptr;
+    QLabel* lblNothing_ = nullptr;  ///< says that a search found nothing
     QTreeWidget* tvwContents_ = nullptr;
     HelpBrowser* browser_ = nullptr;
 };

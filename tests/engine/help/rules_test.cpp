@@ -239,7 +239,7 @@ TEST_F(Rules, RelativesDifferInOneRespectAndKnowEachOther) {
         }
         return relatives;
     };
-    EXPECT_EQ(named("Klondike"), (Expected{{"Excel", "the tableau builds down in the same colour"},
+    EXPECT_EQ(named("Klondike"), (Expected{{"Excel", "the tableau builds down in the same color"},
                                            {"Impact", "the tableau builds down in any suit but the same"},
                                            {"Lawn", "the tableau builds down in suit"}}));
     EXPECT_EQ(named("Canfield").at("Superior Canfield"), "all cards of the reserve can be read");

@@ -61,6 +61,11 @@ TEST_F(HelpWindows, TheSearchLeavesWhatHoldsTheWords) {
     EXPECT_EQ(shown, mHelpPages::FindGames(Words).size() + mHelpPages::FindPages(Words).size());
     EXPECT_LT(shown, 50u);
     EXPECT_TRUE(Page(contents).startsWith(QStringLiteral("Spider One Suit\n")));
+
+    const auto* nothing = Find<QLabel>(*contents, "lblNothing");
+    EXPECT_TRUE(nothing->isHidden());
+    QTest::keyClicks(Find<QLineEdit>(*contents, "txtSearch"), QStringLiteral(" zither"));
+    EXPECT_FALSE(nothing->isHidden());
 }
 
 TEST_F(HelpWindows, AboutNamesVersionAndLibraries) {
