@@ -56,11 +56,12 @@ std::string RedealClause(const Facts& facts) {
     const std::string often = OftenText(facts.Redeals);
     if (!facts.Gathers) {
         return "when the stock is empty, a click on its place turns the waste over to form the stock again, "
-               "unshuffled; this can be done " +
+               "unshuffled; this redeal can be made " +
                often;
     }
     return "the cards can be gathered and dealt anew " + often +
-           ": a click on the stock's mark takes up the tableau pile by pile and deals it out again "
+           ": for this redeal, a click on the stock's mark takes up the tableau pile by pile and deals it "
+           "out again "
            "unshuffled, "
            "face up, in rows over all " +
            Count(facts.Game->HomePiles, "pile") + ", empty ones included";
