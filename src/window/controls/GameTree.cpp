@@ -2,8 +2,10 @@
 #include "window/controls/GameTree.h"
 
 #include <algorithm>
+#include <functional>
 
 #include <QCollator>
+#include <QHash>
 #include <QList>
 #include <QTreeWidgetItemIterator>
 
@@ -54,6 +56,31 @@ void GameTree::SortChildren(QTreeWidgetItem* root) {
         return collator.compare(a->text(0), b->text(0)) < 0;
     });
     root->addChildren(children);
+}
+
+int GameTree::ShowOnly(const std::optional<std::vector<int>>& SiDs) {
+    QHash<int, QTreeWidgetItem*> seen;
+    // Games stand below the root or below a group; whatever has games below it shows where one of them does.
+    const std::function<bool(QTreeWidgetItem*)> show = [&](QTreeWidgetItem* item) {
+        bool any = false;
+        for (int i = 0; i < item->childCount(); ++i) any = show(item->child(i)) || any;
+        if (const int SiD = Tag(item); SiD != 0) {
+            any = !SiDs || std::find(SiDs->begin(), SiDs->end(), SiD) != SiDs->end();
+            if (any) seen.insert(SiD, item);
+        } else if (SiDs) {
+            item->setExpanded(true);
+        }
+        item->setHidden(!any && item->parent());
+        return any;
+    };
+    for (int i = 0; i < topLevelItemCount(); ++i) show(topLevelItem(i));
+    if (SiDs && (!currentItem() || currentItem()->isHidden() || Tag(currentItem()) == 0)) {
+        const auto first =
+            std::find_if(SiDs->begin(), SiDs->end(), [&](int SiD) { return seen.contains(SiD); });
+        setCurrentItem(first == SiDs->end() ? nullptr : seen.value(*first));
+    }
+    if (SiDs && currentItem()) scrollToItem(currentItem());
+    return static_cast<int>(seen.size());
 }
 
 int GameTree::Tag(const QTreeWidgetItem* item) { return item ? item->data(0, TagRole).toInt() : 0; }

@@ -1,6 +1,9 @@
 // A tree of games under one root, as the selection dialog shows three of them.
 #pragma once
 
+#include <optional>
+#include <vector>
+
 #include <QString>
 #include <QTreeWidget>
 
@@ -18,6 +21,10 @@ public:
     static QTreeWidgetItem* AddGroup(QTreeWidgetItem* parent, const QString& text);
     /// Sorts the games under a root by name, ignoring case.
     static void SortChildren(QTreeWidgetItem* root);
+
+    /// Hides all games but these, and groups without any; shows all where none are named. The first game of
+    /// `SiDs` becomes current where the current one went out of sight. Answers how many are shown.
+    int ShowOnly(const std::optional<std::vector<int>>& SiDs);
 
     /// The SiD of a game node, 0 for a root, a group or no node.
     [[nodiscard]] static int Tag(const QTreeWidgetItem* item);

@@ -21,8 +21,12 @@ int NextOf(const QString& beginning, const QStringList& names, int from, bool or
 
 }  // namespace
 
+bool TypeAhead::IsTyping() const {
+    return !typed_.isEmpty() && sinceKey_.isValid() && sinceKey_.elapsed() <= TypingPause;
+}
+
 int TypeAhead::Find(const QString& typed, const QStringList& names, int current) {
-    if (!sinceKey_.isValid() || sinceKey_.elapsed() > TypingPause) typed_.clear();
+    if (!IsTyping()) typed_.clear();
     sinceKey_.start();
     // A blank that opens no word selects nothing.
     if (typed_.isEmpty() && typed.trimmed().isEmpty()) return -1;

@@ -12,6 +12,8 @@ public:
     /// The index of the name that is meant after `typed` was added, with the name at `current` selected
     /// (-1 for none); -1 where no name begins so. Empty names are never meant.
     [[nodiscard]] int Find(const QString& typed, const QStringList& names, int current);
+    /// Whether a name is being typed: a blank belongs to it then.
+    [[nodiscard]] bool IsTyping() const;
 
 private:
     QString typed_;

@@ -23,6 +23,7 @@ frmChoose::frmChoose(QWidget* owner) : QDialog(owner) {
     setWindowTitle(tr("Select a Game Number"));
     BuildControls();
     Load();
+    connect(Text1, &QLineEdit::textChanged, this, &frmChoose::ShowFault);
     connect(cmdSelect, &QPushButton::clicked, this, &frmChoose::Select);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     Text1->setFocus();
@@ -32,7 +33,7 @@ frmChoose::frmChoose(QWidget* owner) : QDialog(owner) {
 void frmChoose::BuildControls() {
     cmPlayer = mDialog::MakeCombo("cmPlayer");
     cmGames = mDialog::MakeCombo("cmGames");
-    cmGames->setView(new GameList);  // now the box's own
+    new GameList(cmGames);
     lblName = new QLabel(tr("Enter a Game Number between"));
     lblName->setObjectName(QStringLiteral("lblName"));
     lblRange = new QLabel;
@@ -41,6 +42,8 @@ void frmChoose::BuildControls() {
     Text1->setObjectName(QStringLiteral("Text1"));
     Text1->setAccessibleName(tr("Game number"));
     lblName->setBuddy(Text1);
+    lblFault_ = new QLabel;
+    lblFault_->setObjectName(QStringLiteral("lblFault"));
 
     cmdSelect = new QPushButton(tr("Select"));
     cmdSelect->setObjectName(QStringLiteral("cmdSelect"));
@@ -61,6 +64,7 @@ void frmChoose::BuildControls() {
     all->addWidget(lblName);
     all->addWidget(lblRange);
     all->addWidget(Text1);
+    all->addWidget(lblFault_);
     all->addStretch();
     all->addWidget(buttons);
     setTabOrder(cmPlayer, cmGames);
@@ -74,9 +78,16 @@ void frmChoose::BuildControls() {
 void frmChoose::Load() {
     Text1->setText(QString::fromStdString(mGameNumber::Text(mFunc::NewGameNo())));
     lblRange->setText(QString::fromStdString(mSelect::RangeText()));
-    Text1->setAccessibleDescription(lblName->text() + QLatin1Char(' ') + lblRange->text());
+    ShowFault();
     mDialog::FillCombo(cmGames, ilsIcons::Game(), gData->GameNames(), gData->LastGName());
     mDialog::FillCombo(cmPlayer, ilsIcons::Player(), mPlayers::Names(), gData->CurPlayer());
+}
+
+void frmChoose::ShowFault() {
+    const bool fits = !mSelect::NumberFault(Text1->text().toStdString());
+    lblFault_->setText(fits ? QString() : tr("This is no number of that range."));
+    Text1->setAccessibleDescription(lblName->text() + QLatin1Char(' ') + lblRange->text() +
+                                    (fits ? QString() : QStringLiteral(". ") + lblFault_->text()));
 }
 
 void frmChoose::Select() {

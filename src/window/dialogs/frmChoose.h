@@ -18,12 +18,15 @@ private:
     void BuildControls();
     void Load();
     void Select();
+    /// Tells, while one types, where the number will not be accepted.
+    void ShowFault();
 
     QComboBox* cmPlayer = nullptr;
     QComboBox* cmGames = nullptr;
     QLabel* lblName = nullptr;
     QLabel* lblRange = nullptr;
     QLineEdit* Text1 = nullptr;
+    QLabel* lblFault_ = nullptr;
     QPushButton* cmdSelect = nullptr;
     QPushButton* cmdCancel = nullptr;
 };

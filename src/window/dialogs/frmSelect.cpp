@@ -20,6 +20,7 @@
 #include "engine/state/cPlate.h"
 #include "window/controls/GameTree.h"
 #include "window/controls/mDialog.h"
+#include "window/dialogs/GameSearch.h"
 #include "window/look/ilsIcons.h"
 #include "window/look/mTablePicture.h"
 #include "window/records/frmGameStat.h"
@@ -32,13 +33,15 @@ frmSelect::frmSelect(QWidget* owner) : QDialog(owner) {
     SSTab1->setCurrentIndex(gData->Get(Setting::TvIndex));
     ShowSelection();
 
-    connect(SSTab1, &QTabWidget::currentChanged, this, &frmSelect::ShowSelection);
+    connect(SSTab1, &QTabWidget::currentChanged, this, &frmSelect::ShowFound);
     for (GameTree* tree : {tvwAll, tvwGroups, tvwOrg}) {
         connect(tree, &QTreeWidget::currentItemChanged, this, &frmSelect::ShowSelection);
         connect(tree, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
             if (GameTree::Tag(item) != 0) Play();  // a group opens and closes instead
         });
     }
+    connect(search, &GameSearch::Changed, this, &frmSelect::ShowFound);
+    connect(search, &GameSearch::ToList, this, [this] { CurrentTree()->setFocus(); });
     connect(cmdPlay, &QPushButton::clicked, this, &frmSelect::Play);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(cmdRules, &QPushButton::clicked, this,
@@ -48,6 +51,7 @@ frmSelect::frmSelect(QWidget* owner) : QDialog(owner) {
 }
 
 void frmSelect::BuildControls() {
+    search = new GameSearch;
     SSTab1 = new QTabWidget;
     SSTab1->setObjectName(QStringLiteral("SSTab1"));
     SSTab1->setAccessibleName(tr("Games"));
@@ -96,15 +100,18 @@ void frmSelect::BuildControls() {
     for (QPushButton* each : {cmdRules, cmdStat, cmdPlay, cmdCancel}) side->addWidget(each);
 
     auto* all = new QHBoxLayout(this);
-    all->addWidget(SSTab1, 1);
+    auto* lists = new QVBoxLayout;
+    lists->addWidget(search);
+    lists->addWidget(SSTab1, 1);
+    all->addLayout(lists, 1);
     all->addLayout(side);
     mDialog::FirstSize(this, {fontMetrics().averageCharWidth() * 115, fontMetrics().height() * 33});
 
-    // From the list to what is done with it, whatever the order on the screen.
-    setTabOrder(imcPlayer, cmdPlay);
-    setTabOrder(cmdPlay, cmdCancel);
-    setTabOrder(cmdCancel, cmdRules);
+    // As the eye goes: the lists, and from top to bottom what stands beside them.
+    setTabOrder(imcPlayer, cmdRules);
     setTabOrder(cmdRules, cmdStat);
+    setTabOrder(cmdStat, cmdPlay);
+    setTabOrder(cmdPlay, cmdCancel);
 }
 
 QWidget* frmSelect::BuildPreview() {
@@ -177,6 +184,19 @@ void frmSelect::ShowSelection() {
     lblName->setText(text);
     imgPick->setPixmap(QPixmap::fromImage(
         mTablePicture::Preview(text.toStdString(), imgPick->size(), imgPick->devicePixelRatioF())));
+}
+
+void frmSelect::ShowFound() {
+    const QString words = search->Words();
+    std::optional<std::vector<int>> found;
+    if (!words.isEmpty()) found = search_.Games(words.toStdString());
+    int shown = 0;  // in the list in sight
+    for (GameTree* tree : {tvwAll, tvwGroups, tvwOrg}) {
+        const int games = tree->ShowOnly(found);
+        if (tree == CurrentTree()) shown = games;
+    }
+    search->ShowFound(shown);
+    ShowSelection();
 }
 
 void frmSelect::Play() {

@@ -4,6 +4,9 @@
 #include <QDialog>
 #include <QString>
 
+#include "engine/commands/mFind.h"
+
+class GameSearch;
 class GameTree;
 class QComboBox;
 class QLabel;
@@ -24,8 +27,12 @@ private:
     [[nodiscard]] QString SelectedText() const;
     /// Shows the selected game; a group or a root leaves the last game shown.
     void ShowSelection();
+    /// Leaves in the lists what the search field asks for.
+    void ShowFound();
     void Play();
 
+    mFind::Search search_;
+    GameSearch* search = nullptr;
     QTabWidget* SSTab1 = nullptr;
     GameTree* tvwAll = nullptr;
     GameTree* tvwGroups = nullptr;

@@ -14,12 +14,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPixmap>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableView>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QtTest/QTest>
 
 #include "engine/commands/mGen.h"
@@ -35,6 +37,7 @@
 #include "engine/state/cPlate.h"
 #include "engine/state/cTrans.h"
 #include "window/DialogTest.h"
+#include "window/controls/GameTree.h"
 #include "window/dialogs/frmChoose.h"
 #include "window/dialogs/frmHistory.h"
 #include "window/dialogs/frmSelect.h"
@@ -190,6 +193,73 @@ TEST_F(Dialogs, TypingFindsAGameAlsoInAClosedGroup) {
         QTest::keyClicks(Tree(dialog), QStringLiteral("#"));
         EXPECT_EQ(Selected(dialog), found) << "what no game begins with changes nothing";
     }
+}
+
+TEST_F(Dialogs, TheSearchLeavesWhatIsMeantAndPlaysIt) {
+    gData->SetCurGName("Klondike");
+    frmSelect dialog;
+    Open(dialog);
+    auto* field = Find<QLineEdit>(dialog, "txtSearch");
+    const auto shown = [&] {
+        QStringList names;
+        for (QTreeWidgetItemIterator it(Tree(dialog)); *it; ++it) {
+            if (GameTree::Tag(*it) != 0 && !(*it)->isHidden()) names << (*it)->text(0);
+        }
+        return names;
+    };
+    field->setFocus();
+    for (const Tab tab : {All, Groups}) {
+        ShowTab(dialog, tab);
+        field->clear();
+        QTest::keyClicks(field, QStringLiteral("complete runs two suits"));
+        EXPECT_EQ(shown(),
+                  (QStringList{QStringLiteral("Spider Two Suit"), QStringLiteral("Stripped Spider")}));
+        EXPECT_EQ(Selected(dialog), "Spider Two Suit");
+        EXPECT_EQ(Text(dialog, "lblName"), "Spider Two Suit");
+    }
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_EQ(shown().size(), gData->TotalGames()) << "Escape shows all again";
+    QTest::keyClicks(field, QStringLiteral("zither"));
+    EXPECT_TRUE(shown().isEmpty());
+    EXPECT_FALSE(Find<QPushButton>(dialog, "cmdPlay")->isEnabled());
+
+    // The menu adds its words, and takes them out again.
+    field->setText(QStringLiteral("spider"));
+    const auto entries = Find<QToolButton>(dialog, "cmdFacets")->menu()->actions();
+    const auto flip = [&](const char* label) {
+        for (QAction* entry : entries) {
+            if (entry->text() == QLatin1String(label)) entry->trigger();
+        }
+    };
+    flip("Two decks");
+    flip("Never played");
+    EXPECT_EQ(field->text(), QStringLiteral("spider two decks never played"));
+    flip("Two decks");
+    EXPECT_EQ(field->text(), QStringLiteral("spider never played"));
+
+    field->setText(QStringLiteral("3 free cells"));
+    QTest::keyClick(field, Qt::Key_Down);
+    EXPECT_TRUE(Tree(dialog)->hasFocus());
+    QTest::keyClick(Tree(dialog), Qt::Key_Return);
+    EXPECT_TRUE(Playing("Milligan Cell"));
+}
+
+TEST_F(Dialogs, ANameWithABlankIsTypedInTheBoxOfGames) {
+    gData->SetCurGName("Klondike");
+    frmChoose dialog;
+    Open(dialog);
+    auto* games = Find<QComboBox>(dialog, "cmGames");
+    games->setFocus();
+    QTest::keyClicks(games, QStringLiteral("baker's dozen p"));
+    EXPECT_EQ(games->currentText(), QStringLiteral("Baker's Dozen Plus"));
+    EXPECT_FALSE(games->view()->isVisible());
+
+    auto* number = Find<QLineEdit>(dialog, "Text1");
+    EXPECT_EQ(Text(dialog, "lblFault"), "");
+    number->setText(QStringLiteral("12x"));
+    EXPECT_NE(Text(dialog, "lblFault"), "");
+    number->setText(QStringLiteral("12"));
+    EXPECT_EQ(Text(dialog, "lblFault"), "");
 }
 
 TEST_F(Dialogs, NumbersAreTakenInsideTheRangeOnly) {
