@@ -83,6 +83,10 @@ TEST_F(Life, AGameLeavesNothingToTheNext) {
         mGen::StartGame(other, 1.0);
         RandomPlayer player(7);
         for (int i = 0; i < 100 && gData->Figures.GameRunning; ++i) player.Act();
+        // As other games have them.
+        gGames->HomeMaxCards = 3;
+        gGames->NoH2HMove = true;
+        gGames->CarreNapCount = 2;
         mGen::StartGame("Carre Napoleon", 3.0);
         EXPECT_EQ(gRedealCount, 0);
         mMain::UndoAll(0);

@@ -95,6 +95,9 @@ TEST_F(Autoplay, WhereCompleteRunsGo) {
     game_.Goal.Piles = 1;
     Expect({{"by suit and deck", "H0 KC'-AC'; H1 KS-AS | auto | G1 AS-KS; G7 AC'-KC' #26"}});
     EXPECT_EQ(gArray->TotalGoalCards(), 26);
+    game_.Goal.Order = RuleCode::EitherSuit;
+    Expect({{"only with the Ace on top", "H0 QS-4S 3S' 2S' AS 2S | auto | ="}});
+    game_.Goal.Order = RuleCode::UpSuit;
     game_.Ext.GoalDiv = 4;
     Expect({{"folded", "H0 KC'-AC'; H1 KS-AS; G3 AC-KC | auto | G1 AS-KS; G3 AC-KC AC'-KC' #26"}});
 }

@@ -4,13 +4,16 @@
 #include <tuple>
 
 #include <fmt/format.h>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
+#include "engine/commands/mGen.h"
 #include "engine/rules/mCards.h"
 #include "engine/rules/mFunc.h"
 #include "engine/state/cArray.h"
+#include "engine/state/cData.h"
 #include "engine/state/cGames.h"
 #include "engine/state/cPlate.h"
+#include "engine/state/mDeal.h"
 #include "support/Script.h"
 
 namespace {
@@ -91,6 +94,34 @@ TEST_F(Deal, Foundations) {
             EXPECT_LT(last, PicID);
             EXPECT_EQ(mFunc::CardFaceMode(PicID), 1);
             last = PicID;
+        }
+    }
+    EXPECT_THAT(engine_.Layer.Sounds.Played, testing::Contains("START"));
+}
+
+// The position that is computed without a table is the one that the table deals, in every game.
+TEST_F(Deal, TheOpeningPosition) {
+    mGen::AsideGame aside;
+    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) {
+        SCOPED_TRACE(gData->GetGame(SiD));
+        mGen::SetGameRules(gData->GetGame(SiD));
+        const mDeal::Opening opening = mDeal::Deal(*gGames, SiD);
+        aside.Deal(gData->GetGame(SiD), static_cast<double>(SiD));
+        EXPECT_EQ(std::tuple(opening.Base, opening.EmptyNum), std::tuple(gGoalBase, gGames->EmptyNum));
+        for (const int Cell : {Home, Stock, Waste, Goal, Res}) {
+            const auto& piles = opening.Piles.at(static_cast<std::size_t>(Cell));
+            ASSERT_EQ(piles.size(), static_cast<std::size_t>(gGames->Piles(Cell)));
+            for (int p = 0; p < gGames->Piles(Cell); ++p) {
+                const auto& pile = piles[static_cast<std::size_t>(p)];
+                ASSERT_EQ(static_cast<int>(pile.size()), gArray->GetTop(Cell, p) + 1);
+                for (int Pos = 0; Pos <= gArray->GetTop(Cell, p); ++Pos) {
+                    const auto& [PicID, closed] = pile[static_cast<std::size_t>(Pos)];
+                    EXPECT_EQ(gArray->GetPicID(Cell, p, Pos), PicID);
+                    EXPECT_EQ(mFunc::CardFaceMode(PicID) == 1, closed);
+                    EXPECT_EQ(static_cast<const CardFace&>(PicBack.PicCards(PicID)),
+                              opening.Cards.at(static_cast<std::size_t>(PicID)));
+                }
+            }
         }
     }
 }

@@ -62,8 +62,9 @@ TEST_F(Drag, AGroupTrailsByConstantSteps) {
         const int king = Card("KH");
         const Point start = PlaceOf("KH");
         mMain::MouseDown(king, 10, 10);
-        mMain::MouseMove(king, 510, 2010);
         int front = PicBack.PicCards(Card("9C")).Order;
+        EXPECT_LT(front, PicBack.PicCards(Card("QS")).Order) << "the press raises the group";
+        mMain::MouseMove(king, 510, 2010);
         Point place{start.X + 500, start.Y + 2000};
         for (const char* card : {"KH", "QS", "JD"}) {
             EXPECT_EQ(PlaceOf(card), place);

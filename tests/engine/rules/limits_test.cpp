@@ -140,6 +140,14 @@ TEST_F(Limits, Reserve) {
     });
 }
 
+// A card that may lie on any other does not come to lie on itself.
+TEST_F(Limits, TheOwnPile) {
+    game_.Home.Order = RuleCode::Always;
+    Expect({{"a card on its own pile", "H0 KH 2C | 2C>H0 | ="},
+            {"a group on its own pile", "H0 KH 2C 7S | 2C>H0 | ="},
+            {"any card on another", "H0 KH 2C; H1 9D | 2C>H1 | H0 KH; H1 9D 2C"}});
+}
+
 // Stock and waste take nothing from the player.
 TEST_F(Limits, StockAndWaste) {
     Expect(

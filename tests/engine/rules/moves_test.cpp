@@ -1,4 +1,6 @@
 // What may be lifted and where it may lie: the rules of the drag, each as a little play.
+#include <gmock/gmock.h>
+
 #include "engine/state/codes.h"
 #include "support/Script.h"
 
@@ -67,6 +69,7 @@ TEST_F(Moves, OnAFoundation) {
         {"not a fourteenth card", "H0 AS'; G0 AS-KS | AS'>G0 | ="},
         {"not a fourteenth card by autoplay", "H0 QS'; G0 KS AS-QS | G=13 auto | ="},
     });
+    EXPECT_THAT(engine_.Layer.Sounds.Played, testing::Not(testing::Contains("AUTOPLAY")));
     game_.Goal.GoalUpDown = true;
     Expect({
         {"up on the lower half", "H0 8S; G1 7S | 8S>G1 | G1 7S 8S"},

@@ -1,5 +1,6 @@
 // The shuffle, and the one operation that moves cards.
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 #include <string>
 #include <tuple>
@@ -83,7 +84,36 @@ TEST_F(MoveCard, SilentMoves) {
         EXPECT_EQ(mFunc::CardFaceMode(Card("9D")), 1);
         EXPECT_EQ(gTrans->MaxTrans(), 0);
         EXPECT_EQ(gArray->GetTop(Home, 0), kind == tMod::Reposition ? 1 : 0);
+        EXPECT_EQ(gArray->GetPicID(Home, 0, 1), kind == tMod::Reposition ? Card("5C") : -1);
     }
+}
+
+// Notes where a card is at each step.
+class WatchingStage : public MemoryStage {
+public:
+    explicit WatchingStage(int PicID) : card_(PicID) {}
+    void ShowStep() override {
+        const CardRecord& card = PicBack.PicCards(card_);
+        Seen.push_back({card.Left, card.Top, card.FaceMode});
+    }
+    std::vector<std::array<int, 3>> Seen;
+
+private:
+    int card_;
+};
+
+// Only the first card of a group travels, and the card turns when it arrives.
+TEST_F(MoveCard, TravelsInSteps) {
+    mPosition::Begin({});
+    mScript::Lay("H0 (9D); H2 KH (5C) 4D");
+    WatchingStage stage(Card("5C"));
+    PicBack.SetStage(&stage);
+    gArray->MoveCard(Card("5C"), Home, 0, 1, tMod::Play, 4, 1);
+    PicBack.SetStage(&engine_.Layer.Stage);
+    const std::vector<std::array<int, 3>> expected = {
+        {3590, 2402, 1}, {2990, 2355, 1}, {2390, 2307, 1}, {1790, 2260, 0}};
+    EXPECT_EQ(stage.Seen, expected);
+    EXPECT_EQ(mPosition::Pile(Home, 0), "(9D) 5C 4D");
 }
 
 TEST_F(MoveCard, AutoplayFollowsPlayedMovesOnly) {
