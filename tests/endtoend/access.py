@@ -11,7 +11,7 @@ from contextlib import closing
 from gi.repository import GLib
 
 from play import Driver, deal, expect, make
-from reader import Bus, Reader, all_below, children, named, wait
+from reader import Bus, Reader, all_below, children, named, role_of, wait
 from window import Failure, Game, run
 
 RANKS = "Ace Two Three Four Five Six Seven Eight Nine Ten Jack Queen King".split()
@@ -123,7 +123,7 @@ def explore(reader, game, program, state):
                        and pile.startswith("Tableau"))
     name, left, top = cards[-2]
     found = reader.at(program, *game.at(left + 150, top + 90))
-    expect("the card under the pointer", (found.get_name(), found.get_role_name()), (name, "list item"))
+    expect("the card under the pointer", (found.get_name(), role_of(found)), (name, "list item"))
     expect("its pile", (found.get_parent().get_name(), found.get_index_in_parent()), (pile, len(cards) - 2))
     stock = next(pile for pile in children(named(program, "Table")) if pile.get_name().startswith("Stock"))
     covered = ["showing" not in reader.states(card) for card in children(stock)]
@@ -158,7 +158,7 @@ def window_in_front(reader, program):
 
 def control_of(thing):
     """A row that has the focus stands for its list."""
-    while thing and thing.get_role_name() in ("table cell", "list item", "page tab", "table column header"):
+    while thing and role_of(thing) in ("table cell", "list item", "page tab", "table column header"):
         thing = thing.get_parent()
     return thing
 
@@ -166,7 +166,7 @@ def control_of(thing):
 def reach(reader, game, window):
     """Goes through a window with the Tab key: every control must come."""
     wanted = [thing for thing in all_below(window)
-              if thing.get_role_name() in CONTROLS - {"label"} and reader.is_usable(thing)]
+              if role_of(thing) in CONTROLS - {"label"} and reader.is_usable(thing)]
     visited = []
     if len(wanted) < 2:
         return  # it has the focus and keeps it
@@ -181,10 +181,10 @@ def reach(reader, game, window):
 
 
 def check_window(reader, window):
-    if not window.get_name() or window.get_role_name() not in ("dialog", "frame", "alert"):
-        raise Failure(f"a window says {window.get_role_name()} {window.get_name()!r}")
+    if not window.get_name() or role_of(window) not in ("dialog", "frame", "alert"):
+        raise Failure(f"a window says {role_of(window)} {window.get_name()!r}")
     for thing in all_below(window):
-        role = thing.get_role_name()
+        role = role_of(thing)
         if role not in CONTROLS | {"filler", "chart"} or "showing" not in reader.states(thing):
             continue
         if role == "chart" and not (thing.get_name() and thing.get_description()):
@@ -198,7 +198,7 @@ def check_window(reader, window):
 def check_pages(reader, game, window):
     check_window(reader, window)
     reach(reader, game, window)
-    for tab in [thing for thing in all_below(window) if thing.get_role_name() == "page tab"][1:]:
+    for tab in [thing for thing in all_below(window) if role_of(thing) == "page tab"][1:]:
         game.screen.xdotool("mousemove", *reader.middle(tab), "click", 1)
         wait(f"the tab {tab.get_name()}", lambda tab=tab: {"selected", "focused"} & reader.states(tab))
         check_window(reader, window)
@@ -220,7 +220,7 @@ def point_at(reader, game, menu, entry):
 def open_window(reader, game, program, thing):
     """Clicks on something that opens a window, or where the pointer is; the window, active."""
     before = window_in_front(reader, program)
-    place = ("mousemove", *reader.middle(thing)) if thing.get_role_name() == "push button" else ()
+    place = ("mousemove", *reader.middle(thing)) if role_of(thing) == "push button" else ()
     game.screen.xdotool(*place, "click", 1)
 
     def opened():
@@ -241,7 +241,7 @@ def read_dialogs(reader, game, program):
         window = window_in_front(reader, program)
         return window if window and named(window, "Table") else None
     main = wait("the main window in front", main_window)
-    bar = next(thing for thing in all_below(program) if thing.get_role_name() == "menu bar")
+    bar = next(thing for thing in all_below(program) if role_of(thing) == "menu bar")
     for menu in children(bar):
         for entry in [entry for popup in children(menu) for entry in children(popup)]:
             if entry.get_name() in COMMANDS or "enabled" not in reader.states(entry) or not entry.get_name():

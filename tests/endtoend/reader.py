@@ -113,6 +113,12 @@ class Reader:
                 if kind.startswith("object:state-changed:focused") and on]
 
 
+def role_of(thing):
+    """The role by its older name: what newer libraries call a button was a push button before."""
+    role = thing.get_role_name()
+    return "push button" if role == "button" else role
+
+
 def children(thing):
     found = (thing.get_child_at_index(i) for i in range(thing.get_child_count()))
     return [child for child in found if child]
@@ -121,7 +127,7 @@ def children(thing):
 def all_below(thing, deepest=("tree", "tree table", "table", "list", "combo box")):
     """The thing and all that it holds, without the rows of lists."""
     yield thing
-    if thing.get_role_name() not in deepest:
+    if role_of(thing) not in deepest:
         for child in children(thing):
             yield from all_below(child, deepest)
 
@@ -129,4 +135,4 @@ def all_below(thing, deepest=("tree", "tree table", "table", "list", "combo box"
 def named(thing, name, role=None):
     """The first object of that name below another; None where there is none."""
     return next((found for found in all_below(thing)
-                 if found.get_name() == name and role in (None, found.get_role_name())), None)
+                 if found.get_name() == name and role in (None, role_of(found))), None)

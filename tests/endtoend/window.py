@@ -120,12 +120,20 @@ class Game:
         self.screen.xdotool("type", "--delay", 30, text)
         self.screen.settle()
 
-    def choose(self, name):
-        """The way to the first game: from the splash over the selection to a game that is being dealt."""
+    def open_selection(self):
+        """From the splash to the selection."""
         wait_for("the splash", lambda: self.screen.in_front("^Tarnival"))
         self.keys("space")
         wait_for("the selection over the table", lambda: len(self.screen.windows("^Tarnival")) >= 2)
         self.screen.settle()
+
+    def choose(self, name):
+        """The way to the first game: from the splash over the selection to a game that is being dealt."""
+        self.open_selection()
+        self.pick(name)
+
+    def pick(self, name):
+        """From the selection to a game that is being dealt."""
         self.type(name)
         self.screen.xdotool("key", "Return")
         wait_for(f"a game of {name}", lambda: self.screen.windows(rf"\[{name}\]"))
