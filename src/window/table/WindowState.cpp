@@ -27,6 +27,9 @@ QList<QRect> Screens() {
     return screens;
 }
 
+// Under Wayland no program learns where its windows are: what another session has written stays.
+bool KnowsPlace() { return !QGuiApplication::platformName().startsWith(QLatin1String("wayland")); }
+
 }  // namespace
 
 WindowState::WindowState(QMainWindow* window, TableZoom* zoom)
@@ -86,8 +89,10 @@ void WindowState::Save() {
         values.push_back({Setting::WindowMaximised, state.testFlag(Qt::WindowMaximized) ? 1 : 0});
     }
     if (!(state & (Qt::WindowMaximized | Qt::WindowFullScreen | Qt::WindowMinimized))) {
-        values.push_back({Setting::WindowLeft, window_->x()});
-        values.push_back({Setting::WindowTop, window_->y()});
+        if (KnowsPlace()) {
+            values.push_back({Setting::WindowLeft, window_->x()});
+            values.push_back({Setting::WindowTop, window_->y()});
+        }
         values.push_back({Setting::WindowWidth, window_->width()});
         values.push_back({Setting::WindowHeight, window_->height()});
     }
