@@ -27,12 +27,6 @@ std::bitset<MaxCards> LiftedGroup(int PicID) {
 
 }  // namespace
 
-bool Accepts(int PicID, int above, int Cell, int Pile) {
-    const CardRecord& card = PicBack.PicCards(PicID);
-    if (Cell == Home) return mFunc::HomeAccepts(PicID, card.Cell, card.Pile, Pile);
-    return Cell == Res ? mFunc::ResAccepts(Pile, above) : mFunc::GoalAccepts(PicID, Pile, above);
-}
-
 Point DropPlace(int Cell, int Pile) {
     return gGames->Position(Cell, Pile, Cell == Home ? gArray->GetTop(Home, Pile) : 0);
 }
@@ -63,7 +57,7 @@ void RandomPlayer::DragSensibly() {
         const int first = Pick(piles);
         for (int p = 0; p < piles; ++p) {
             const int pile = (first + p) % piles;
-            if (!Accepts(PicID, above, Cell, pile)) continue;
+            if (!mFunc::Accepts(PicID, above, Cell, pile)) continue;
             const Point place = DropPlace(Cell, pile);
             Drag(PicID, place.X, place.Y);
             return;

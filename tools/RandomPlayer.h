@@ -9,9 +9,6 @@
 #include "engine/state/cGames.h"
 #include "engine/state/cPlate.h"
 
-/// Whether a pile of the tableau, the reserve or the foundations takes a card that is lifted with `above`
-/// others.
-[[nodiscard]] bool Accepts(int PicID, int above, int Cell, int Pile);
 /// Where a drop on the pile looks for the card.
 [[nodiscard]] Point DropPlace(int Cell, int Pile);
 

@@ -63,8 +63,7 @@ std::vector<BotMove> All() {
         moves.push_back(
             {BotMove::Kind::StockPress, Stock, 0, static_cast<std::int16_t>(gArray->GetTopPicID(Stock))});
     }
-    const bool mayRedeal = gGames->Redeals() == -1 || gRedealCount < gGames->Redeals();
-    if (gGames->StockNum == StockNum::Redeal && gArray->GetTop(Stock) < 0 && mayRedeal) {
+    if (mPlay::MayRedeal() && gArray->GetTop(Stock) < 0) {
         moves.push_back({BotMove::Kind::StockClick, Stock, 0, -1});
     }
     return moves;

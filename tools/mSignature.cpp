@@ -61,7 +61,7 @@ std::vector<Action> LegalActions() {
         if (!PicBack.PicCards(PicID).Visible || !mFunc::CanLift(PicID, above)) continue;
         for (const int Cell : {Home, Res, Goal}) {
             for (int p = 0; p < gGames->Piles(Cell); ++p) {
-                if (Accepts(PicID, above, Cell, p)) actions.push_back({PicID, Cell, p});
+                if (mFunc::Accepts(PicID, above, Cell, p)) actions.push_back({PicID, Cell, p});
             }
         }
     }

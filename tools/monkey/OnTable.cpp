@@ -42,7 +42,7 @@ void Monkey::PlanDrag() {
         const int piles = gGames->Piles(Cell);
         if (piles == 0) continue;
         const int Pile = Pick(piles);
-        if (!Accepts(PicID, above, Cell, Pile)) continue;
+        if (!mFunc::Accepts(PicID, above, Cell, Pile)) continue;
         const Point end = DropPlace(Cell, Pile);
         QWidget* view = window_->Table()->viewport();
         const QPoint to = OnView(*window_, end.X, end.Y);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "engine/catalogue/families.h"
+#include "engine/commands/mSpoken.h"
 #include "engine/records/cScore.h"
 #include "engine/records/mPlayers.h"
 #include "engine/rules/mCards.h"
@@ -190,8 +191,11 @@ void StartGame(const std::string& name, const GameNumber& number) {
         Deal(gameNumber);
     }
     gData->Figures.GameRunning = true;
+    const mSpoken::Change change;
     mPlay::AutoPlayAll();
     gRedealCount = 0;
+    const std::string went = change.Text();
+    mSpoken::Say(game + " dealt" + (went.empty() ? "" : ", " + went));
 }
 
 void CloseGame(int mWon) {
@@ -213,6 +217,7 @@ void CheckWin() {
     if (gArray->TotalGoalCards() != CardsToWin()) return;
     const FinishSummary summary = Summary();
     gData->PlaySound("Win");
+    mSpoken::Say("The game is won");
     // Recorded before the dialog shows, so that the statistics that it opens contain the game.
     CloseGame(1);
     wanted = gData->Layer().Forms.ShowFinish(summary);

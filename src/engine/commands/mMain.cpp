@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "engine/commands/mGen.h"
+#include "engine/commands/mSpoken.h"
 #include "engine/records/cScore.h"
 #include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
@@ -20,11 +21,20 @@ namespace mMain {
 namespace {
 
 int draggedCard = -1;
+Hand holder = Hand::Mouse;  // of draggedCard, while gDrag says that a card is lifted
 Replay replay = Replay::Stopped;
 bool stopEnabled = false;
 StatusTexts status;
 
 bool Running() { return gData->Figures.GameRunning; }
+
+// Tells who listens what the command does to the cards; `byHand` is the card that the player moves.
+template <typename Command>
+void Told(Command command, const char* lead = "", int byHand = -1) {
+    const mSpoken::Change change;
+    command();
+    if (const std::string text = change.Text(byHand); !text.empty()) mSpoken::Say(lead + text);
+}
 
 // The command as one action of the player, only while a game runs.
 template <typename Command>
@@ -33,6 +43,21 @@ void InGame(Command command) {
     const mGen::Action action;
     CancelDrag();  // before the command changes the piles under the card in the hand
     command();
+}
+
+void Press(int PicID, double X, double Y, Hand by) {
+    if (!Running() || gDrag.gPicked) return;
+    const mGen::Action action;
+    const CardRecord& card = PicBack.PicCards(PicID);
+    gDrag.gPickCount = 0;
+    gDrag.gDownX = RoundToEven(X);
+    gDrag.gDownY = RoundToEven(Y);
+    gDrag.gDownLeft = card.Left;
+    gDrag.gDownTop = card.Top;
+    draggedCard = PicID;
+    holder = by;
+    Told([&] { mFunc::TryPick(PicID, card.Cell, card.Pile, card.Pos); });
+    gData->PlaySound("CardDown");
 }
 
 template <typename Command>
@@ -53,32 +78,53 @@ void Load() {
     gData->Layer().Forms.SetCaption(gData->ProdName());
 }
 
-void MouseDown(int PicID, double X, double Y) {
-    if (!Running() || gDrag.gPicked) return;
-    const mGen::Action action;
-    const CardRecord& card = PicBack.PicCards(PicID);
-    gDrag.gPickCount = 0;
-    gDrag.gDownX = RoundToEven(X);
-    gDrag.gDownY = RoundToEven(Y);
-    gDrag.gDownLeft = card.Left;
-    gDrag.gDownTop = card.Top;
-    draggedCard = PicID;
-    mFunc::TryPick(PicID, card.Cell, card.Pile, card.Pos);
-    gData->PlaySound("CardDown");
-}
+void MouseDown(int PicID, double X, double Y) { Press(PicID, X, Y, Hand::Mouse); }
 
 void MouseMove(int PicID, double X, double Y) {
-    if (!Running() || !gDrag.gPicked || PicID != draggedCard) return;
+    if (!Running() || InHand() != Hand::Mouse || PicID != draggedCard) return;
     const CardRecord& card = PicBack.PicCards(PicID);
     mPlay::DragMove(PicID, card.Pile, card.Pos, X, Y);
 }
 
 void MouseUp(int PicID) {
-    if (!Running() || !gDrag.gPicked || PicID != draggedCard) return;
+    if (!Running() || InHand() != Hand::Mouse || PicID != draggedCard) return;
     const mGen::Action action;
     gDrag.gPicked = false;
     const CardRecord card = PicBack.PicCards(PicID);
-    mPlay::DropCard(PicID, card.Cell, card.Pile, card.Pos);
+    Told([&] { mPlay::DropCard(PicID, card.Pile, card.Pos); }, "", PicID);
+    gData->PlaySound("CardUp");
+}
+
+void MouseLost() {
+    if (InHand() == Hand::Mouse) CancelDrag();
+}
+
+Hand InHand() { return gDrag.gPicked ? holder : Hand::Empty; }
+
+int CardInHand() { return gDrag.gPicked ? draggedCard : -1; }
+
+void Lift(int PicID) { Press(PicID, CardWidth / 2.0, CardHeight / 2.0, Hand::Keys); }
+
+void Carry(int Left, int Top) {
+    if (!Running() || InHand() != Hand::Keys) return;
+    const CardRecord& card = PicBack.PicCards(draggedCard);
+    mPlay::DragMove(draggedCard, card.Pile, card.Pos, gDrag.gDownX + Left - card.Left,
+                    gDrag.gDownY + Top - card.Top);
+}
+
+bool DropOn(int Cell, int Pile) {
+    if (!Running() || InHand() != Hand::Keys) return false;
+    if (!mFunc::Accepts(draggedCard, gDrag.gPickCount, Cell, Pile)) return false;
+    const mGen::Action action;
+    gDrag.gPicked = false;
+    Told([=] { mPlay::DropOn(draggedCard, Cell, Pile); }, "", draggedCard);
+    gData->PlaySound("CardUp");
+    return true;
+}
+
+void PutBack() {
+    if (!Running() || InHand() != Hand::Keys) return;
+    CancelDrag();
     gData->PlaySound("CardUp");
 }
 
@@ -90,7 +136,13 @@ void CancelDrag() {
     gDrag.gPicked = false;
 }
 
-void StockClick() { InGame(mPlay::StockClick); }
+void StockClick() {
+    InGame([] {
+        const bool gathers = gGames->RedealType() == RedealType::GatherTableau && mPlay::MayRedeal();
+        if (gathers) mSpoken::Say("The tableau is gathered and dealt again");
+        Told(mPlay::StockClick);
+    });
+}
 
 void NewGame() {
     OutsideDeal([] { mGen::StartGame(gData->LastGName(), mFunc::NewGameNo()); });
@@ -111,25 +163,25 @@ void RecentGame(int i) {
 }
 
 void Undo(int Speed) {
-    InGame([Speed] { gTrans->Undo(Speed); });
+    InGame([Speed] { Told([Speed] { gTrans->Undo(Speed); }, "Undone: "); });
 }
 
 void Redo(int Speed) {
-    InGame([Speed] { gTrans->Redo(Speed); });
+    InGame([Speed] { Told([Speed] { gTrans->Redo(Speed); }, "Redone: "); });
 }
 
 void UndoAll(int Speed) {
-    InGame([Speed] { gTrans->UndoAll(Speed); });
+    InGame([Speed] { Told([Speed] { gTrans->UndoAll(Speed); }, "All undone: "); });
 }
 
 void RedoAll(int Speed) {
-    InGame([Speed] { gTrans->RedoAll(Speed); });
+    InGame([Speed] { Told([Speed] { gTrans->RedoAll(Speed); }, "All redone: "); });
 }
 
 void FlipAutoplay() {
     const bool on = gData->Get(Setting::Autoplay) != 1;
     gData->Set(Setting::Autoplay, on ? 1 : 0);
-    if (on) InGame(mPlay::AutoPlayAll);
+    if (on) InGame([] { Told(mPlay::AutoPlayAll); });
 }
 
 void FlipToolbar() {

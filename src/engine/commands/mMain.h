@@ -14,6 +14,22 @@ void Load();
 void MouseDown(int PicID, double X, double Y);
 void MouseMove(int PicID, double X, double Y);
 void MouseUp(int PicID);
+/// The mouse was taken away without a release: what it holds goes back.
+void MouseLost();
+
+/// Whose hand holds a card. The mouse and the keys do not meddle with what the other one holds.
+enum class Hand { Empty, Mouse, Keys };
+[[nodiscard]] Hand InHand();
+/// The lifted card; -1 with an empty hand.
+[[nodiscard]] int CardInHand();
+// By keys, the same that the mouse does: a press, a drag step, and a release on a pile.
+void Lift(int PicID);
+/// Left and top of the lifted card, in twips of the plate.
+void Carry(int Left, int Top);
+/// False where the pile does not accept the card, which stays in the hand then.
+bool DropOn(int Cell, int Pile);
+void PutBack();
+
 /// The card in the hand, if any, goes back to where it was lifted.
 void CancelDrag();
 /// A click on the mark under the stock.

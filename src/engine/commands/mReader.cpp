@@ -2,10 +2,12 @@
 #include "engine/commands/mReader.h"
 
 #include <algorithm>
+#include <cctype>
 
 #include <fmt/format.h>
 
 #include "engine/help/mRulesWords.h"
+#include "engine/rules/mPlay.h"
 #include "engine/state/cArray.h"
 #include "engine/state/cData.h"
 #include "engine/state/cPlate.h"
@@ -27,13 +29,18 @@ const MarkRecord* MarkOf(const PilePlace& pile) {
     return mark.Visible ? &mark : nullptr;
 }
 
-/// What the mark of an empty pile says, behind a comma; empty where it says nothing.
-std::string MarkText(const MarkRecord* mark) {
+/// What the mark of an empty pile says, behind a comma; empty where it says nothing. The stock's picture
+/// promises a redeal also in games that grant none: here the rule speaks.
+std::string MarkText(const PilePlace& pile, const MarkRecord* mark) {
     constexpr int King = 12;
     if (!mark) return {};
-    if (mark->Picture <= King) return ", takes " + mRulesWords::ARank(mark->Picture);
-    if (mark->Picture == NoRedealMark) return ", no redeal";
-    return mark->Picture == RedealMark ? ", a redeal is possible" : "";
+    if (pile.Cell == Stock) return mPlay::MayRedeal() ? ", a redeal is possible" : ", no redeal";
+    return mark->Picture <= King ? ", takes " + mRulesWords::ARank(mark->Picture) : "";
+}
+
+std::string InSmallLetters(std::string name) {
+    name[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(name[0])));
+    return name;
 }
 
 Area CardSized(int Left, int Top) { return {Left, Top, CardWidth, CardHeight}; }
@@ -43,13 +50,6 @@ Area United(const Area& a, const Area& b) {
     const int top = std::min(a.Top, b.Top);
     return {left, top, std::max(a.Left + a.Width, b.Left + b.Width) - left,
             std::max(a.Top + a.Height, b.Top + b.Height) - top};
-}
-
-/// The pile's own place: that of its mark or its first card.
-Area BaseArea(const PilePlace& pile) {
-    if (const MarkRecord* mark = MarkOf(pile)) return CardSized(mark->Left, mark->Top);
-    const Point place = gGames->Position(pile.Cell, pile.Pile, 0);
-    return CardSized(place.X, place.Y);
 }
 
 }  // namespace
@@ -88,18 +88,37 @@ std::string CardText(int PicID) {
     return fmt::format("{} of {}", mRulesWords::Rank(card.Num), mRulesWords::Suit(card.Suit));
 }
 
+std::string PileName(const PilePlace& pile) {
+    const std::string group = cTrans::ConvertCell(pile.Cell);
+    return gGames->Piles(pile.Cell) > 1 ? fmt::format("{} pile {}", group, pile.Pile + 1) : group;
+}
+
+std::string PileInSentence(const PilePlace& pile) {
+    const std::string name = InSmallLetters(PileName(pile));
+    return gGames->Piles(pile.Cell) > 1 ? name : "the " + name;
+}
+
+std::string PlaceText(const PilePlace& pile, int Pos) {
+    if (!Running()) return {};
+    return fmt::format("{}, card {} of {}", InSmallLetters(PileName(pile)), Pos + 1, Count(pile));
+}
+
 std::string PileText(const PilePlace& pile) {
     if (!Running()) return {};
-    std::string text = cTrans::ConvertCell(pile.Cell);
-    if (gGames->Piles(pile.Cell) > 1) text += fmt::format(" pile {}", pile.Pile + 1);
     const int count = Count(pile);
-    if (count == 0) return text + ", empty" + MarkText(MarkOf(pile));
-    return text + fmt::format(", {} card{}", count, count == 1 ? "" : "s");
+    if (count == 0) return PileName(pile) + ", empty" + MarkText(pile, MarkOf(pile));
+    return PileName(pile) + fmt::format(", {} card{}", count, count == 1 ? "" : "s");
 }
 
 Area CardArea(int PicID) {
     const CardRecord& card = PicBack.PicCards(PicID);
     return CardSized(card.Left, card.Top);
+}
+
+Area BaseArea(const PilePlace& pile) {
+    if (const MarkRecord* mark = MarkOf(pile)) return CardSized(mark->Left, mark->Top);
+    const Point place = gGames->Position(pile.Cell, pile.Pile, 0);
+    return CardSized(place.X, place.Y);
 }
 
 Area PileArea(const PilePlace& pile) {

@@ -37,11 +37,19 @@ struct Area {
 
 /// "Seven of Hearts", or "Face-down card".
 [[nodiscard]] std::string CardText(int PicID);
+/// "Tableau pile 3"; "Stock" where a group has one pile.
+[[nodiscard]] std::string PileName(const PilePlace& pile);
+/// The same within a sentence: "tableau pile 3", "the stock".
+[[nodiscard]] std::string PileInSentence(const PilePlace& pile);
+/// Where a card lies: "tableau pile 3, card 4 of 6".
+[[nodiscard]] std::string PlaceText(const PilePlace& pile, int Pos);
 /// "Tableau pile 3, 5 cards"; "Stock, 1 card" where a group has one pile; "Foundation pile 1, empty,
 /// takes an Ace" where the mark tells.
 [[nodiscard]] std::string PileText(const PilePlace& pile);
 
 [[nodiscard]] Area CardArea(int PicID);
+/// The pile's own place: that of its mark or its first card.
+[[nodiscard]] Area BaseArea(const PilePlace& pile);
 /// All cards and the pile's own place.
 [[nodiscard]] Area PileArea(const PilePlace& pile);
 /// The pile of the card or mark that is seen at that point of the plate.

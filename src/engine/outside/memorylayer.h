@@ -89,6 +89,7 @@ public:
     [[nodiscard]] std::optional<std::string> AskSaveFile(const std::string& name,
                                                          const std::string& filter) override;
     [[nodiscard]] bool ShowProgress(const std::string& task, int percent) override;
+    void Announce(const std::string& text) override { Heard.push_back(text); }
     void SetCaption(const std::string& caption) override { Caption = caption; }
     void ShowRecent(const std::vector<std::string>& names) override { Recent = names; }
     [[nodiscard]] AfterGame ShowFinish(const FinishSummary& summary) override;
@@ -97,6 +98,7 @@ public:
     void PaintBackground() override {}
 
     std::vector<std::string> Messages;
+    std::vector<std::string> Heard;
     std::vector<std::string> Questions;
     bool Answer = false;                     ///< to every question
     std::vector<std::string> SaveQuestions;  ///< name, a bar, filter

@@ -68,27 +68,30 @@ int MaxMoveCards() {
     return (cells + 1) * piles + cells;
 }
 
-bool CanLift(int PicID, int& above) {
+LiftRefusal WhyNotLift(int PicID, int& above) {
+    using enum LiftRefusal;
     const CardRecord& card = PicBack.PicCards(PicID);
-    const int top = gArray->GetTop(card.Cell, card.Pile);
+    const bool onTop = card.Pos == gArray->GetTop(card.Cell, card.Pile);
     above = 0;
     switch (card.Cell) {
         case Stock:
-            return gGames->StockType() == StockType::Open && card.Pos == top;
+            return gGames->StockType() == StockType::Open && onTop ? None : NotOnTop;
         case Waste:
-            return card.Pile == 0 && card.Pos == top;
+            return card.Pile == 0 && onTop ? None : NotOnTop;
         case Goal:
         case Res:
-            return card.Pos == top;
+            return onTop ? None : NotOnTop;
         default:
             break;
     }
-    if (card.Pos == top) return true;
-    above = top - card.Pos;
+    if (onTop) return None;
+    above = gArray->GetTop(card.Cell, card.Pile) - card.Pos;
+    if (card.FaceMode == 1) return Closed;
+    if (!gGames->MultiMove()) return SingleCards;
+    if (!IsSeq(PicID, above)) return NotInSequence;
     const bool limited =
         gGames->GameType() == GameType::LimitedRuns || gGames->GameType() == GameType::BaseFills;
-    return card.FaceMode != 1 && gGames->MultiMove() && IsSeq(PicID, above) &&
-           (!limited || above <= MaxMoveCards());
+    return limited && above > MaxMoveCards() ? TooMany : None;
 }
 
 bool HomeAccepts(int PicID, int SCell, int SPile, int Pile) {
@@ -114,6 +117,19 @@ bool GoalAccepts(int PicID, int Pile, int above) {
     if (top == FullTop) return false;
     return OrderOK(gArray->GetPicID(Goal, Pile, top), PicID, gGames->Order(Goal, Pile),
                    gGames->AK(Goal) != 0);
+}
+
+bool Accepts(int PicID, int above, int Cell, int Pile) {
+    switch (Cell) {
+        case Home:
+            return HomeAccepts(PicID, CardCell(PicID), CardPile(PicID), Pile);
+        case Res:
+            return ResAccepts(Pile, above);
+        case Goal:
+            return GoalAccepts(PicID, Pile, above);
+        default:
+            return false;
+    }
 }
 
 void TryPick(int PicID, int Cell, int Pile, int Pos) {

@@ -52,12 +52,26 @@ using mOrder::SuitRule;
 /// How many cards may follow the lifted card where the game limits runs.
 [[nodiscard]] int MaxMoveCards();
 
+/// Why a card may not be lifted.
+enum class LiftRefusal {
+    None,
+    NotOnTop,       ///< only the top card of its pile may
+    Closed,         ///< with cards on it
+    SingleCards,    ///< the game moves no groups
+    NotInSequence,  ///< the cards on it do not follow
+    TooMany,        ///< more cards than the free places allow
+};
 /// Whether a card may be lifted; `above` receives the cards that go with it.
-[[nodiscard]] bool CanLift(int PicID, int& above);
+[[nodiscard]] LiftRefusal WhyNotLift(int PicID, int& above);
+[[nodiscard]] inline bool CanLift(int PicID, int& above) {
+    return WhyNotLift(PicID, above) == LiftRefusal::None;
+}
 /// What a pile accepts from a card that lies at (SCell, SPile) with `above` cards on it.
 [[nodiscard]] bool HomeAccepts(int PicID, int SCell, int SPile, int Pile);
 [[nodiscard]] bool ResAccepts(int Pile, int above);
 [[nodiscard]] bool GoalAccepts(int PicID, int Pile, int above);
+/// The same for a pile of any group; stock and waste accept nothing.
+[[nodiscard]] bool Accepts(int PicID, int above, int Cell, int Pile);
 
 /// The press on a card: lifts it and what lies above it, or runs a stock command.
 void TryPick(int PicID, int Cell, int Pile, int Pos);

@@ -32,24 +32,12 @@ void TrailGroup(int Pile, int Pos, int left, int top, bool raise) {
 }
 
 // One pass of the scan: the first pile that the card hits and that accepts it takes it.
-bool DropInPass(int PicID, int Cell, int Pile, bool Mode) {
-    const int above = gDrag.gPickCount;
-    for (int p = 0; p < gGames->Piles(Home); ++p) {
-        const int top = gArray->GetTop(Home, p);
-        if (!mFunc::IsOverlap(PicID, Home, p, top, Mode) || !mFunc::HomeAccepts(PicID, Cell, Pile, p))
-            continue;
-        gArray->MoveCard(PicID, Home, p, top + 1, tMod::Play, 1, above);
-        return true;
-    }
-    for (int p = 0; p < gGames->Piles(Res); ++p) {
-        if (!mFunc::IsOverlap(PicID, Res, p, 0, Mode) || !mFunc::ResAccepts(p, above)) continue;
-        gArray->MoveCard(PicID, Res, p, 0);
-        return true;
-    }
-    for (int p = 0; p < gGames->Piles(Goal); ++p) {
-        if (!mFunc::IsOverlap(PicID, Goal, p, 0, Mode) || !mFunc::GoalAccepts(PicID, p, above)) continue;
-        gArray->MoveCard(PicID, Goal, p, gArray->GetTop(Goal, p) + 1);
-        return true;
+bool DropInPass(int PicID, bool Mode) {
+    for (const int Cell : {Home, Res, Goal}) {
+        for (int p = 0; p < gGames->Piles(Cell); ++p) {
+            const int Pos = Cell == Home ? gArray->GetTop(Home, p) : 0;
+            if (mFunc::IsOverlap(PicID, Cell, p, Pos, Mode) && DropOn(PicID, Cell, p)) return true;
+        }
     }
     return false;
 }
@@ -88,9 +76,16 @@ void DragMove(int PicID, int Pile, int Pos, double X, double Y) {
     PicBack.Refresh();
 }
 
-void DropCard(int PicID, int Cell, int Pile, int Pos) {
-    if (DropInPass(PicID, Cell, Pile, false) || DropInPass(PicID, Cell, Pile, true)) return;
+void DropCard(int PicID, int Pile, int Pos) {
+    if (DropInPass(PicID, false) || DropInPass(PicID, true)) return;
     ReturnCards(PicID, Pile, Pos);
+}
+
+bool DropOn(int PicID, int DCell, int DPile) {
+    const int above = gDrag.gPickCount;
+    if (!mFunc::Accepts(PicID, above, DCell, DPile)) return false;
+    gArray->MoveCard(PicID, DCell, DPile, gArray->GetTop(DCell, DPile) + 1, tMod::Play, 1, above);
+    return true;
 }
 
 void ReturnCards(int PicID, int Pile, int Pos) {

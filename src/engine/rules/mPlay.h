@@ -17,13 +17,17 @@ void StartDeal();
 /// the cards that go with it.
 void DragMove(int PicID, int Pile, int Pos, double X, double Y);
 /// Finds a place for the dragged card; returns the cards where there is none.
-void DropCard(int PicID, int Cell, int Pile, int Pos);
+void DropCard(int PicID, int Pile, int Pos);
+/// Puts the lifted card and what goes with it on a pile that accepts them; false for any other pile.
+bool DropOn(int PicID, int DCell, int DPile);
 void ReturnCards(int PicID, int Pile, int Pos);
 
 /// A press on a card of a closed stock.
 void PressStock();
 /// One card from the stock onto every tableau pile, as far as the stock reaches.
 void DealStockToHome();
+/// Whether the game allows one more redeal.
+[[nodiscard]] bool MayRedeal();
 /// The click on the stock's marker: redeals within the limit.
 void StockClick();
 void RedealClick();

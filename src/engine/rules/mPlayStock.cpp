@@ -57,9 +57,13 @@ void DealStockToHome() {
     AutoPlayAll();  // once after the whole row, not after each card
 }
 
+bool MayRedeal() {
+    return gGames->StockNum == StockNum::Redeal &&
+           (gGames->Redeals() == -1 || gRedealCount < gGames->Redeals());
+}
+
 void StockClick() {
-    if (gGames->StockNum != StockNum::Redeal) return;
-    if (gGames->Redeals() == -1 || gRedealCount < gGames->Redeals()) RedealClick();
+    if (MayRedeal()) RedealClick();
 }
 
 void RedealClick() {

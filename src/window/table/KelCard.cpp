@@ -58,7 +58,7 @@ bool KelCard::sceneEvent(QEvent* event) {
     // The mouse was taken away without a release, as when another window came up: the card goes back.
     if (event->type() == QEvent::UngrabMouse && button_ != Qt::NoButton) {
         button_ = Qt::NoButton;
-        mMain::CancelDrag();
+        mMain::MouseLost();
     }
     return QGraphicsObject::sceneEvent(event);
 }
