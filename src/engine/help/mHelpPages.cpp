@@ -86,7 +86,18 @@ const std::vector<Page>& All() {
           "counts stay counted when they are undone."}},
         {"keys",
          "Keys",
-         {"F1 opens the rules of the running game, or the contents while none is running.",
+         {"The arrow keys move a frame over the piles and the cards in them. Home and End lead to the first "
+          "and "
+          "the last pile of a row, Page Up and Page Down to those of a group, and Tab and Shift+Tab to the "
+          "next "
+          "and the previous group: Tableau, Reserve, Waste, Stock, Foundation. The first key only shows the "
+          "frame; the first movement of the mouse takes it away.",
+          "Space or Return lifts the card in the frame with what lies on it. The arrows then carry it from "
+          "pile to pile; the piles that take it are marked. Space or Return drops it, Escape puts it back. "
+          "On "
+          "the stock Space deals, and on the mark of the empty stock it redeals.",
+          "F sends the card in the frame to the first foundation that takes it.",
+          "F1 opens the rules of the running game, or the contents while none is running.",
           "F2 starts a new deal of the last game, F3 selects a game, Ctrl+F2 starts the same deal again, "
           "Ctrl+F12 "
           "asks for a game number, and F12 closes the game.",

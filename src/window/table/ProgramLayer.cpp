@@ -95,6 +95,10 @@ bool ProgramForms::ShowProgress(const std::string& task, int percent) {
     return !canceled;
 }
 
+void ProgramForms::Announce(const std::string& text) {
+    if (main_) main_->Announce(text);
+}
+
 void ProgramForms::SetCaption(const std::string& caption) {
     if (main_) main_->setWindowTitle(QString::fromStdString(caption));
 }

@@ -6,6 +6,8 @@
 
 #include <QAccessible>
 
+#include "engine/commands/mKeys.h"
+#include "window/table/TableKeys.h"
 #include "window/table/TableView.h"
 
 namespace {
@@ -14,21 +16,72 @@ using mReader::PilePlace;
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
-/// What piles and cards have in common: they are no objects of their own.
-class PlaceAccess : public QAccessibleInterface {
-public:
-    PlaceAccess(const TableAccess& table, const PilePlace& pile) : table_(table), pile_(pile) {}
+// The actions of cards and piles. Each is offered where it can be done.
+QString LiftAction() { return TableView::tr("Lift"); }
+QString DropAction() { return TableView::tr("Drop Here"); }
+QString DealAction() { return TableView::tr("Deal"); }
+QString RedealAction() { return TableView::tr("Redeal"); }
 
-    [[nodiscard]] const PilePlace& Pile() const { return pile_; }
+/// What piles and cards have in common: they are no objects of their own.
+class PlaceAccess : public QAccessibleInterface, public QAccessibleActionInterface {
+public:
+    PlaceAccess(const TableAccess& table, const PilePlace& pile, int Pos = -1)
+        : table_(table), stop_{pile, Pos} {}
+
+    [[nodiscard]] const PilePlace& Pile() const { return stop_.Pile; }
+    [[nodiscard]] const mFrame::Stop& Stop() const { return stop_; }
+
+    [[nodiscard]] void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                    : nullptr;
+    }
+    [[nodiscard]] QStringList actionNames() const override {
+        QStringList names{setFocusAction()};
+        for (const mKeys::Offer offer : mKeys::Offers(stop_)) {
+            switch (offer) {
+                case mKeys::Offer::Lift:
+                    names << LiftAction();
+                    break;
+                case mKeys::Offer::Drop:
+                    names << DropAction();
+                    break;
+                case mKeys::Offer::Deal:
+                    names << DealAction();
+                    break;
+                case mKeys::Offer::Redeal:
+                    names << RedealAction();
+                    break;
+            }
+        }
+        return names;
+    }
+    void doAction(const QString& name) override {
+        const mFrame::Stop stop = stop_;
+        const auto ask = [this](const std::function<mKeys::Answer()>& action) {
+            TableKeys::Ask(table_.View(), action);
+        };
+        if (name == setFocusAction()) ask([stop] { return mKeys::GoTo(stop); });
+        if (name == LiftAction()) ask([stop] { return mKeys::LiftAt(stop); });
+        if (name == DropAction()) ask([stop] { return mKeys::DropAt(stop.Pile); });
+        if (name == DealAction()) ask(mKeys::Deal);
+        if (name == RedealAction()) ask(mKeys::Redeal);
+    }
+    [[nodiscard]] QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
     [[nodiscard]] bool isValid() const override { return table_.isValid(); }
     [[nodiscard]] QObject* object() const override { return nullptr; }
     [[nodiscard]] QWindow* window() const override { return table_.window(); }
     void setText(QAccessible::Text, const QString&) override {}
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Description) return Text(mKeys::PlaceText(stop_));
         return kind == QAccessible::Name ? Name() : QString();
     }
-    [[nodiscard]] QAccessible::State state() const override { return table_.StateAt(rect()); }
+    [[nodiscard]] QAccessible::State state() const override {
+        QAccessible::State state = table_.StateAt(rect());
+        state.focusable = true;
+        state.focused = table_.View()->hasFocus() && mKeys::Place() == stop_;
+        return state;
+    }
 
 protected:
     [[nodiscard]] virtual QString Name() const = 0;
@@ -36,15 +89,14 @@ protected:
 
 private:
     const TableAccess& table_;
-    PilePlace pile_;
+    mFrame::Stop stop_;  // of a pile: its mark
 };
 
 class CardAccess : public PlaceAccess {
 public:
-    CardAccess(const TableAccess& table, const PilePlace& pile, int Pos)
-        : PlaceAccess(table, pile), pos_(Pos) {}
+    CardAccess(const TableAccess& table, const PilePlace& pile, int Pos) : PlaceAccess(table, pile, Pos) {}
 
-    [[nodiscard]] int Pos() const { return pos_; }
+    [[nodiscard]] int Pos() const { return Stop().Pos; }
 
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ListItem; }
     [[nodiscard]] QAccessibleInterface* parent() const override { return Table().Pile(Pile()); }
@@ -57,7 +109,7 @@ public:
     }
     [[nodiscard]] QAccessible::State state() const override {
         QAccessible::State state = PlaceAccess::state();
-        if (mReader::IsCovered(Pile(), pos_)) state.offscreen = true;
+        if (mReader::IsCovered(Pile(), Pos())) state.offscreen = true;
         return state;
     }
 
@@ -67,9 +119,7 @@ protected:
     }
 
 private:
-    [[nodiscard]] int PicID() const { return mReader::Card(Pile(), pos_); }
-
-    int pos_;
+    [[nodiscard]] int PicID() const { return mReader::Card(Pile(), Pos()); }
 };
 
 class PileAccess : public PlaceAccess {
@@ -97,8 +147,6 @@ protected:
     [[nodiscard]] QString Name() const override { return Text(mReader::PileText(Pile())); }
 };
 
-TableView* ViewOf(const TableAccess& table) { return static_cast<TableView*>(table.object()); }
-
 void Send(QAccessibleInterface* about, QAccessible::Event what) {
     QAccessibleEvent event(about, what);
     QAccessible::updateAccessibility(&event);
@@ -116,6 +164,18 @@ TableAccess::~TableAccess() {
 QAccessibleInterface* TableAccess::Make(const QString&, QObject* object) {
     auto* view = qobject_cast<TableView*>(object);
     return view ? new TableAccess(view) : nullptr;
+}
+
+TableView* TableAccess::View() const { return static_cast<TableView*>(object()); }
+
+QAccessibleInterface* TableAccess::Framed() const {
+    const std::optional<mFrame::Stop> place = mKeys::Place();
+    if (!place) return nullptr;
+    return place->Pos >= 0 ? Card(place->Pile, place->Pos) : Pile(place->Pile);
+}
+
+QAccessibleInterface* TableAccess::focusChild() const {
+    return View()->hasFocus() ? Framed() : QAccessibleWidget::focusChild();
 }
 
 int TableAccess::childCount() const { return static_cast<int>(mReader::Piles().size()); }
@@ -160,14 +220,14 @@ QAccessibleInterface* TableAccess::At(const Place& place) const {
 }
 
 QRect TableAccess::OnScreen(const mReader::Area& area) const {
-    const TableView* view = ViewOf(*this);
+    const TableView* view = View();
     const QPoint start = view->mapFromScene(area.Left, area.Top);
     const QPoint end = view->mapFromScene(area.Left + area.Width, area.Top + area.Height);
     return {view->viewport()->mapToGlobal(start), QSize(end.x() - start.x(), end.y() - start.y())};
 }
 
 Point TableAccess::OnPlate(int x, int y) const {
-    const TableView* view = ViewOf(*this);
+    const TableView* view = View();
     const QPointF pixel = view->viewport()->mapFromGlobal(QPoint(x, y)) + QPointF(0.5, 0.5);  // its middle
     const QPointF point = view->viewportTransform().inverted().map(pixel);
     return {static_cast<int>(std::floor(point.x())), static_cast<int>(std::floor(point.y()))};
@@ -197,6 +257,14 @@ std::vector<TableAccess::Told> TableAccess::Read() {
 void TableAccess::TellChanges(TableView* view) {
     if (!QAccessible::isActive()) return;
     if (auto* table = dynamic_cast<TableAccess*>(QAccessible::queryAccessibleInterface(view))) table->Tell();
+}
+
+void TableAccess::TellFocus(TableView* view) {
+    if (!QAccessible::isActive()) return;
+    auto* table = dynamic_cast<TableAccess*>(QAccessible::queryAccessibleInterface(view));
+    if (!table) return;
+    table->Tell();  // the place may be new
+    if (QAccessibleInterface* framed = table->Framed()) Send(framed, QAccessible::Focus);
 }
 
 void TableAccess::Tell() {

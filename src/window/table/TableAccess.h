@@ -25,12 +25,17 @@ public:
     /// Tells the assistive programs what has changed since the last call. Only while one is active.
     static void TellChanges(TableView* view);
 
+    /// Tells them that the keyboard's frame has come to another place.
+    static void TellFocus(TableView* view);
+
+    [[nodiscard]] QAccessibleInterface* focusChild() const override;
     [[nodiscard]] int childCount() const override;
     [[nodiscard]] QAccessibleInterface* child(int index) const override;
     [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override;
     [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override;
 
     // For the piles and cards.
+    [[nodiscard]] TableView* View() const;
     [[nodiscard]] QAccessibleInterface* Pile(const mReader::PilePlace& pile) const;
     [[nodiscard]] QAccessibleInterface* Card(const mReader::PilePlace& pile, int Pos) const;
     /// Pixels of the screen.
@@ -51,6 +56,7 @@ private:
     };
     [[nodiscard]] static std::vector<Told> Read();
 
+    [[nodiscard]] QAccessibleInterface* Framed() const;
     [[nodiscard]] QAccessibleInterface* At(const Place& place) const;
     void Tell();
     void TellPile(const Told& before, const Told& now);

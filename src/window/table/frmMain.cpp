@@ -20,7 +20,9 @@
 #include "window/dialogs/frmSelect.h"
 #include "window/look/mIcons.h"
 #include "window/look/mPictures.h"
+#include "window/table/SpokenText.h"
 #include "window/table/StatusStrip.h"
+#include "window/table/TableKeys.h"
 #include "window/table/TableView.h"
 #include "window/table/TableZoom.h"
 #include "window/table/WindowState.h"
@@ -59,6 +61,7 @@ frmMain::frmMain() {
     BuildToolbar();
     BuildTable();
     status_ = new StatusStrip(menuBar());
+    spoken_ = new SpokenText(this);
     // The area under the menu bar measures 10095 × 6555 twips at first, the window centred; with large
     // letters it is as wide as the menus need.
     ensurePolished();
@@ -90,6 +93,7 @@ void frmMain::BuildTable() {
     setCentralWidget(PicMain);
     PicBack->setFocus();
     zoom_ = new TableZoom(PicBack, this);
+    keys_ = new TableKeys(PicBack);
     state_ = new WindowState(this, zoom_);
     // The caption of a game is set when all is ready to deal it.
     connect(this, &QWidget::windowTitleChanged, zoom_, &TableZoom::NewGame);
@@ -120,6 +124,7 @@ void frmMain::TickMain() {
     }
     FollowReplay();
     zoom_->FollowGame();
+    keys_->Follow();
     const mMain::CommandStates states = mMain::UpdateMenus();
     if (statesShown_ && states == states_) return;
     states_ = states;
@@ -158,6 +163,8 @@ void frmMain::TickStatus() {
     if (!gData) return;
     status_->Show(mMain::TickTime());
 }
+
+void frmMain::Announce(const std::string& text) { spoken_->Say(QString::fromStdString(text)); }
 
 void frmMain::ShowRecent(const std::vector<std::string>& names) {
     if (names == recent_) return;

@@ -12,7 +12,9 @@
 
 class QAction;
 class QToolBar;
+class SpokenText;
 class StatusStrip;
+class TableKeys;
 class TableView;
 class TableZoom;
 class WindowState;
@@ -26,6 +28,8 @@ public:
     void Load();
 
     [[nodiscard]] TableView* Table() const { return PicBack; }
+    /// Says a sentence to those who listen.
+    void Announce(const std::string& text);
     /// Shows the recent games in the menu; an empty name is a free slot.
     void ShowRecent(const std::vector<std::string>& names);
     /// Shows or hides the toolbar by its setting.
@@ -50,7 +54,9 @@ private:
     QWidget* PicMain = nullptr;
     TableView* PicBack = nullptr;
     StatusStrip* status_ = nullptr;
+    SpokenText* spoken_ = nullptr;
     TableZoom* zoom_ = nullptr;
+    TableKeys* keys_ = nullptr;
     WindowState* state_ = nullptr;
     std::array<QAction*, 6> mRecent{};  // 1 to 5
     QTimer tmrMain{this}, tmrTime{this}, tmrForward{this}, tmrBackward{this};

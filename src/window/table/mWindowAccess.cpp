@@ -4,6 +4,7 @@
 #include <QAccessibleWidget>
 #include <QDialog>
 
+#include "window/table/SpokenText.h"
 #include "window/table/StatusStrip.h"
 #include "window/table/frmMain.h"
 
@@ -52,6 +53,9 @@ public:
 QAccessibleInterface* mWindowAccess::Make(const QString& className, QObject* object) {
     if (auto* window = qobject_cast<frmMain*>(object)) return new MainAccess(window);
     if (auto* strip = qobject_cast<StatusStrip*>(object)) return new StatusAccess(strip);
+    if (auto* spoken = qobject_cast<SpokenText*>(object)) {
+        return new QAccessibleWidget(spoken, QAccessible::Notification);
+    }
     // The help and the splash, which Qt takes for parts of a window.
     if (!className.startsWith(QLatin1String("frm")) || qobject_cast<QDialog*>(object)) return nullptr;
     return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Window);
