@@ -17,10 +17,10 @@ constexpr int TagRole = Qt::UserRole;
 
 }  // namespace
 
-GameTree::GameTree(const QString& name, QWidget* parent) : QTreeWidget(parent) {
+GameTree::GameTree(const QString& name, QWidget* parent) : SeenView(parent) {
     setObjectName(name);
+    setHeaderLabel(tr("Game"));  // a screen reader reads it though it is hidden
     setHeaderHidden(true);
-    setColumnCount(1);
     setUniformRowHeights(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
 }

@@ -7,10 +7,11 @@
 #include <QString>
 #include <QTreeWidget>
 
+#include "window/controls/SeenView.h"
 #include "window/controls/TypeAhead.h"
 
 /// Typing finds a game by the beginning of its name, also inside a group that is closed.
-class GameTree : public QTreeWidget {
+class GameTree : public SeenView<QTreeWidget> {
     Q_OBJECT
 public:
     explicit GameTree(const QString& name, QWidget* parent = nullptr);

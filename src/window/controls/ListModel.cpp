@@ -7,6 +7,7 @@
 #include <QStyledItemDelegate>
 #include <QTreeView>
 
+#include "window/controls/SeenView.h"
 #include "window/controls/mDialog.h"
 
 namespace {
@@ -52,7 +53,7 @@ int ListModel::Row(const QString& text) const {
 namespace mList {
 
 QTreeView* MakeView(const char* name, ListModel* model) {
-    auto* view = new QTreeView;
+    auto* view = new SeenView<QTreeView>;
     view->setObjectName(QLatin1String(name));
     view->setRootIsDecorated(false);
     view->setItemsExpandable(false);

@@ -5,12 +5,14 @@
 
 #include <QTableView>
 
+#include "window/controls/SeenView.h"
+
 class TableModel;
 
 /// Rows of one height that are selected as a whole, headings that sort nothing. Columns have room for
 /// their heading and texts in any font, and share what the view is wider than that. A million rows cost
 /// no more than those in sight.
-class TextTable : public QTableView {
+class TextTable : public SeenView<QTableView> {
     Q_OBJECT
 public:
     /// Takes the model over.

@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include "engine/commands/mAssets.h"
+#include "window/controls/SeenView.h"
 #include "window/dialogs/LookPreview.h"
 #include "window/dialogs/frmCustomize.h"
 #include "window/look/ilsIcons.h"
@@ -66,9 +67,10 @@ int WidestText(const QFontMetrics& metrics, const mCustomize::Node& node) {
 
 /// The whole tree, its root open, the node of a number selected and in sight.
 QTreeWidget* MakeTree(const char* name, const mCustomize::Node& root, const QIcon& icon, int wanted) {
-    auto* tree = new QTreeWidget;
+    auto* tree = new SeenView<QTreeWidget>;
     tree->setObjectName(QLatin1String(name));
     tree->setAccessibleName(QString::fromStdString(root.Text));
+    tree->setHeaderLabel(tree->accessibleName());  // a screen reader reads it though it is hidden
     tree->setHeaderHidden(true);
     auto* rootItem = new QTreeWidgetItem(tree);
     QTreeWidgetItem* selected = AddNode(rootItem, root, icon, wanted);
@@ -196,7 +198,7 @@ QWidget* frmCustomize::BuildAnimation() {
     }
     speeds->addStretch();
 
-    lvSound = new QTreeWidget;
+    lvSound = new SeenView<QTreeWidget>;
     lvSound->setObjectName(QStringLiteral("lvSound"));
     lvSound->setHeaderLabel(tr("Select Sound"));
     lvSound->setAccessibleName(tr("Sounds"));

@@ -65,6 +65,7 @@ void frmContents::BuildControls() {
     tvwContents_ = new QTreeWidget;
     tvwContents_->setObjectName(QStringLiteral("tvwContents"));
     tvwContents_->setAccessibleName(tr("Contents"));
+    tvwContents_->setHeaderLabel(tvwContents_->accessibleName());  // read, though it is hidden
     tvwContents_->setHeaderHidden(true);
     // A title that is wider than the tree is scrolled to, not cut.
     tvwContents_->header()->setStretchLastSection(false);
