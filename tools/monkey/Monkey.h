@@ -69,6 +69,8 @@ private:
     void OnControl(QWidget* control);
     void OnItemView(QAbstractItemView* view);
     void PlanDrag();
+    void PlanKeys();
+    void AskForAction();
     void PressAnywhere();
     void OpenMenu();
     void PressShortcut();

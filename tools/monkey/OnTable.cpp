@@ -1,4 +1,5 @@
 // What the monkey does in the main window.
+#include <QAccessible>
 #include <QAction>
 #include <QCoreApplication>
 #include <QGraphicsItem>
@@ -53,6 +54,35 @@ void Monkey::PlanDrag() {
     PressAnywhere();
 }
 
+// A few steps of the frame, then something with the card that it comes to: often it is lifted, carried on and
+// dropped.
+void Monkey::PlanKeys() {
+    constexpr Qt::Key steps[] = {Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Up,   Qt::Key_Down,
+                                 Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Home, Qt::Key_End,
+                                 Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Tab,  Qt::Key_Backtab};
+    constexpr Qt::Key deeds[] = {Qt::Key_Space,  Qt::Key_Space, Qt::Key_Space,
+                                 Qt::Key_Return, Qt::Key_F,     Qt::Key_Escape};
+    for (int rounds = 1 + Pick(3); rounds > 0; --rounds) {
+        for (int i = Pick(5); i > 0; --i) {
+            plan_.push_back([this, key = steps[Pick(12)]] { hands_.Key(window_, key); });
+        }
+        plan_.push_back([this, key = deeds[Pick(6)]] { hands_.Key(window_, key); });
+    }
+}
+
+// One of the actions that a card or pile offers to screen readers.
+void Monkey::AskForAction() {
+    QAccessibleInterface* table = QAccessible::queryAccessibleInterface(window_->Table());
+    const int piles = table->childCount();
+    QAccessibleInterface* place = piles > 0 ? table->child(Pick(piles)) : nullptr;
+    if (!place) return PlanKeys();
+    if (const int cards = place->childCount(); cards > 0 && Chance(60)) place = place->child(Pick(cards));
+    QStringList names = place->actionInterface()->actionNames();
+    const QString name = OneOf(names);
+    mDiary::Note("ask " + place->text(QAccessible::Name).toStdString() + " to " + name.toStdString());
+    place->actionInterface()->doAction(name);
+}
+
 void Monkey::PressAnywhere() {
     QWidget* view = window_->Table()->viewport();
     QPoint at = PointIn(view);
@@ -86,8 +116,12 @@ void Monkey::OnTable() {
     const bool running = gData->Figures.GameRunning;
     const int choice = running ? Pick(1000) : 600 + Pick(400);
     QWidget* view = window_->Table()->viewport();
-    if (choice < 400) {
+    if (choice < 300) {
         PlanDrag();
+    } else if (choice < 370) {
+        PlanKeys();
+    } else if (choice < 400) {
+        AskForAction();
     } else if (choice < 570) {
         PressAnywhere();
     } else if (running && choice < 660 && gArray->GetTop(Stock) >= 0) {
