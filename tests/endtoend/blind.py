@@ -1,0 +1,205 @@
+"""A game won without seeing the table, twice: by keys, led by what is heard, and by the actions that cards and
+piles offer.
+
+    blind.py PROGRAM TEXT-DRIVER MOVES
+
+The moves are commands of the text driver, which plays the same deal and says which cards lie where. What the
+program says is all that this player knows of the window.
+"""
+
+import os
+import re
+import sys
+from contextlib import closing
+
+from play import Driver, expect, records
+from reader import Bus, Reader, children, named, wait
+from window import Failure, Game, run, wait_for
+
+ARROWS = {"Left": (-1, 0), "Right": (1, 0), "Up": (0, -1), "Down": (0, 1)}
+MARKS = ("home", "stock", "waste", "goal", "res")
+GROUPS = ("tableau", "stock", "waste", "foundation", "reserve")
+
+
+def where(state, card):
+    """(group, pile, card from the bottom), counted from 0."""
+    for group, piles in enumerate(state["cells"]):
+        for pile, cards in enumerate(piles):
+            for at, (picture, *_) in enumerate(cards):
+                if picture == card:
+                    return group, pile, at
+    raise Failure(f"card {card} is not on the table")
+
+
+def place_in(text):
+    """(group, pile, card from the bottom) of "tableau pile 3, card 4 of 6"; without a card its number is None."""
+    place = re.search(rf"({'|'.join(GROUPS)})(?: piles? (\d+))?(?:, card (\d+) of)?", text)
+    if not place:
+        raise Failure(f"no place: {text!r}")
+    group, pile, card = place.groups()
+    return GROUPS.index(group), int(pile or 1) - 1, int(card) - 1 if card else None
+
+
+def corner(state, group, pile, card=None):
+    """Where a card, the top card of a pile, or its mark lies."""
+    cards = state["cells"][group][pile]
+    if cards:
+        return cards[len(cards) - 1 if card is None else min(card, len(cards) - 1)][3:]
+    mark = state["markers"][MARKS[group]]
+    return (mark if group in (1, 2) else mark[pile])[1:]
+
+
+class Player:
+    """Hears where the frame is and what happens."""
+
+    def __init__(self, reader, game, program):
+        self.reader, self.game, self.program = reader, game, program
+        self.place = ""
+        self.said = []
+
+    def listen(self):
+        for kind, thing, on in self.reader.heard():
+            if kind.startswith("object:state-changed:showing") and thing.get_role_name() == "notification":
+                self.said.append(thing.get_name())
+            elif kind.startswith("object:state-changed:focused") and on:
+                self.place = f"{thing.get_name()}, {thing.get_description()}".lower()
+
+    def told(self, pattern):
+        """Waits for a sentence; what was said before it is forgotten."""
+        def found():
+            self.listen()
+            return next((said for said in self.said if re.search(pattern, said)), None)
+        try:
+            sentence = wait(f"a sentence like {pattern!r}", found, 5)
+        except Failure as failure:
+            raise Failure(f"{failure}; heard {self.said!r}, the frame at {self.place!r}") from failure
+        self.said.clear()
+        return sentence
+
+    def press(self, key, stays=False):
+        """Presses a key that moves the frame; one that may also leave it where it is gets less time."""
+        self.listen()
+        before, self.place = self.place, ""
+        self.game.screen.xdotool("key", key)
+
+        def moved():
+            self.listen()
+            return self.place
+        try:
+            wait(f"another place after {key}", moved, 0.4 if stays else 5)
+        except Failure as failure:
+            if not stays:
+                raise Failure(f"{failure}; the frame was at {before!r}") from failure
+            self.place = before
+
+    @staticmethod
+    def taker(sentence, target):
+        """The pile to drop on: of a winning move, whose end nobody sees, the first that is said to take it."""
+        return target or place_in(sentence.split(", ", 1)[1])
+
+    def at(self):
+        return place_in(self.place)
+
+    def go(self, state, group, pile, card=None):
+        """Leads the frame to a pile, or to a card of it, by arrows that point to where it is seen."""
+        for _ in GROUPS:
+            if self.at()[0] == group:
+                break
+            self.press("Tab")
+        tried = set()
+        for _ in range(200):
+            here = self.at()
+            if here[:2] == (group, pile) and card in (None, here[2]):
+                return
+            (x, y), (to_x, to_y) = corner(state, *here), corner(state, group, pile, card)
+            keys = sorted(ARROWS, key=lambda key: -ARROWS[key][0] * (to_x - x) - ARROWS[key][1] * (to_y - y))
+            key = next((key for key in keys if (here, key) not in tried), None)
+            if not key:
+                break
+            tried.add((here, key))
+            self.press(key, stays=True)
+        raise Failure(f"arrows do not lead to {GROUPS[group]} pile {pile + 1}, card {card}; at {self.place!r}")
+
+
+class ByKeys(Player):
+    def drag(self, state, source, target):
+        self.go(state, *source)
+        if target and target[0] == 3:
+            self.game.screen.xdotool("key", "f")
+        else:
+            self.game.screen.xdotool("key", "space")
+            target = self.taker(self.told("lifted"), target)
+            self.go(state, *target[:2])
+            self.game.screen.xdotool("key", "Return")
+
+    def stock(self, state, _):
+        self.go(state, 1, 0)
+        self.game.screen.xdotool("key", "space")
+
+
+class ByActions(Player):
+    def pile(self, group, number):
+        name = re.compile(rf"{GROUPS[group]}( pile {number + 1})?,", re.IGNORECASE)
+        table = named(self.program, "Table")
+        return next(pile for pile in children(table) if name.match(pile.get_name()))
+
+    def do(self, thing, action):
+        offered = [thing.get_action_name(i) for i in range(thing.get_n_actions())]
+        if action not in offered:
+            raise Failure(f"{thing.get_name()} offers {offered} and not {action}")
+        thing.do_action(offered.index(action))
+
+    def drag(self, _, source, target):
+        self.do(self.pile(*source[:2]).get_child_at_index(source[2]), "Lift")
+        target = self.taker(self.told("lifted"), target)
+        self.do(self.pile(*target[:2]), "Drop Here")
+
+    def stock(self, _, action):
+        self.do(self.pile(1, 0), action)
+
+
+def win(player, driver, commands):
+    state = driver.do(commands[0])
+    for command in commands[1:]:
+        word, *rest = command.split()
+        before, state = state, driver.do(command)
+        if word == "drag":
+            # A card that goes on by itself is at its end already.
+            target = where(state, int(rest[0])) if state["running"] else None
+            player.drag(before, where(before, int(rest[0])), target)
+        else:
+            player.stock(before, "Deal" if word == "press" else "Redeal")
+        player.told(" (to|up|stock|won)\\b" if state["running"] else "game is won")
+
+
+def play(screen, program_file, lab, moves_file):
+    with open(moves_file, encoding="utf-8") as file:
+        commands = [line.strip() for line in file if line.strip()]
+    name, number = re.match(r'start "(.*)" (\d+)', commands[0]).groups()
+    with closing(Bus(screen)):
+        reader = Reader()
+        with Game(screen, program_file) as game:
+            program = wait("the program on the accessibility bus", lambda: reader.program("Tarnival"))
+            game.choose(name)
+            for kind in (ByKeys, ByActions):
+                screen.settle()
+                game.keys("ctrl+F12")
+                game.type(number)
+                game.keys("Return")
+                wait_for("the deal of that number", lambda: screen.windows(rf"\[{number}\]"))
+                player = kind(reader, game, program)
+                player.told("dealt")
+                if kind is ByKeys:
+                    player.press("Home")  # shows the frame
+                with closing(Driver(lab)) as driver:
+                    win(player, driver, commands)
+                wait_for("the end-of-game dialog", lambda: screen.in_front("Congrats"))
+                game.keys("Escape")
+            game.leave()
+        expect("the records", [(row[1], row[-1]) for row in records(os.environ["XDG_DATA_HOME"])][1:],
+               [(name, "1"), (name, "1")])
+    return f"{name} was won by keys and by actions"
+
+
+if __name__ == "__main__":
+    run(play, *sys.argv[1:])
