@@ -6,9 +6,11 @@
 
 #include <fmt/format.h>
 
+#include "engine/catalogue/definition.h"
 #include "engine/commands/mGen.h"
 #include "engine/commands/mLoad.h"
 #include "engine/commands/mMain.h"
+#include "engine/help/mRules.h"
 #include "engine/rules/mFunc.h"
 #include "engine/state/cData.h"
 #include "engine/state/cPlate.h"
@@ -72,6 +74,13 @@ std::string Start(Lab& lab, const LabArguments& arguments) {
     arguments.ExpectCount(2, 2);
     const std::string name = KnownName(arguments);
     mGen::StartGame(name, arguments.Number(1));
+    return StateWith(lab, "draws", mLabState::Draws());
+}
+
+std::string StartDeck(Lab& lab, const LabArguments& arguments) {
+    arguments.ExpectCount(2, 2);
+    const std::string name = KnownName(arguments);
+    mGen::StartDeck(name, arguments.Deck(1, mRules::Find(gData->GetGameID(name))->Deck));
     return StateWith(lab, "draws", mLabState::Draws());
 }
 
@@ -157,23 +166,24 @@ struct Command {
 };
 
 // clang-format off
-constexpr std::array<Command, 16> commands = {{
-    {"games",    Games},
-    {"define",   Define},
-    {"start",    Start},
-    {"state",    State},
-    {"press",    Press},
-    {"drag",     Drag},
-    {"redeal",   InGame<mMain::StockClick>},
-    {"undo",     Step<mMain::Undo, Setting::UndoSpeed>},
-    {"redo",     Step<mMain::Redo, Setting::UndoSpeed>},
-    {"undoall",  Step<mMain::UndoAll, Setting::UndoallSpeed>},
-    {"redoall",  Step<mMain::RedoAll, Setting::UndoallSpeed>},
-    {"autoplay", Autoplay},
-    {"tick",     Tick},
-    {"close",    InGame<mMain::CloseGame>},
-    {"log",      Log},
-    {"history",  History},
+constexpr std::array<Command, 17> commands = {{
+    {"games",     Games},
+    {"define",    Define},
+    {"start",     Start},
+    {"startdeck", StartDeck},
+    {"state",     State},
+    {"press",     Press},
+    {"drag",      Drag},
+    {"redeal",    InGame<mMain::StockClick>},
+    {"undo",      Step<mMain::Undo, Setting::UndoSpeed>},
+    {"redo",      Step<mMain::Redo, Setting::UndoSpeed>},
+    {"undoall",   Step<mMain::UndoAll, Setting::UndoallSpeed>},
+    {"redoall",   Step<mMain::RedoAll, Setting::UndoallSpeed>},
+    {"autoplay",  Autoplay},
+    {"tick",      Tick},
+    {"close",     InGame<mMain::CloseGame>},
+    {"log",       Log},
+    {"history",   History},
 }};
 // clang-format on
 

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -10,14 +11,16 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r";
 
-// Takes the next word off the line; blanks inside a JSON string belong to the word.
+// Takes the next word off the line; blanks inside a JSON string or array belong to the word.
 std::string_view TakeWord(std::string_view& line) {
     line.remove_prefix(std::min(line.find_first_not_of(blanks), line.size()));
     bool inString = false;
+    int arrays = 0;  // open ones
     std::size_t end = 0;
     for (; end < line.size(); ++end) {
         const char c = line[end];
-        if (!inString && blanks.find(c) != std::string_view::npos) break;
+        if (!inString && arrays <= 0 && blanks.find(c) != std::string_view::npos) break;
+        if (!inString) arrays += c == '[' ? 1 : c == ']' ? -1 : 0;
         if (c == '"') inString = !inString;
         if (c == '\\' && inString && end + 1 < line.size()) ++end;
     }
@@ -71,6 +74,26 @@ double LabArguments::Seconds(std::size_t index, double high) const {
     if (seconds < 0.0 || seconds > high)
         throw LabError(fmt::format("the seconds must be from 0 to {:.0f}", high));
     return seconds;
+}
+
+std::vector<int> LabArguments::Deck(std::size_t index, int cards) const {
+    const nlohmann::json& values = values_.at(index);
+    std::vector<int> deck;
+    std::vector<bool> taken(static_cast<std::size_t>(cards), false);
+    if (values.is_array() && values.size() == taken.size()) {
+        for (const nlohmann::json& value : values) {
+            if (!value.is_number_unsigned() || value.get<std::uint64_t>() >= taken.size()) break;
+            const auto card = value.get<std::size_t>();
+            if (taken[card]) break;
+            taken[card] = true;
+            deck.push_back(static_cast<int>(card));
+        }
+    }
+    if (deck.size() != taken.size()) {
+        throw LabError(
+            fmt::format("the deck must be an array that holds each number from 0 to {} once", cards - 1));
+    }
+    return deck;
 }
 
 GameNumber LabArguments::Number(std::size_t index) const {

@@ -33,6 +33,8 @@ public:
     [[nodiscard]] int Whole(std::size_t index, const char* what, int low, int high) const;
     /// From 0 to `high`.
     [[nodiscard]] double Seconds(std::size_t index, double high) const;
+    /// The cards of a whole deck: an array that holds each number from 0 to `cards` - 1 once.
+    [[nodiscard]] std::vector<int> Deck(std::size_t index, int cards) const;
     /// A number, or the text of one.
     [[nodiscard]] GameNumber Number(std::size_t index) const;
 

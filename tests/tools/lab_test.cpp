@@ -1,5 +1,6 @@
 // The text driver: every command, faults that must change nothing, and the
 // program itself on its pipe.
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <fstream>
@@ -88,6 +89,7 @@ TEST_F(LabTest, FaultsChangeNothing) {
         "start \"Klondike\" \"\"\nstart 1 1\npress\npress 52\npress -1\npress 104\npress 1.0\n"
         "press \"1\"\npress 18446744073709551615\npress 4294967296\ndrag 1\ndrag 1 2\n"
         "drag 1 2 x\ndrag 1 40000 0\ndrag 1 0 -40000\ndrag 60 0 0\nundo -1\nundo 1 2\nundo 1e3\n"
+        "startdeck \"Klondike\"\nstartdeck \"Klondike\" 5\nstartdeck \"Klondike\" [0,1,2]\n"
         "redo \"1\"\nundoall 40000\ntick\ntick -1\ntick \"1\"\ntick 1e300\nlog 1\nhistory 1\n"
         "autoplay 1\nclose 1\nredeal 1\npress {\npress [1\n\"state\"\nstart \"Klondike 1\n"
         "\xff\xfe\npress \xff");
@@ -99,6 +101,43 @@ TEST_F(LabTest, FaultsChangeNothing) {
     EXPECT_FALSE(Ask("  state \r").contains("error"));
     EXPECT_TRUE(Lab::IsBlank(" \t\r"));
     EXPECT_FALSE(Lab::IsBlank("x"));
+}
+
+// The values of all cards by their numbers, as a state shows them.
+std::vector<int> DeckOf(const Json& state) {
+    constexpr std::size_t MostCards = 104;
+    std::vector<int> deck(MostCards, -1);
+    for (const Json& piles : state["cells"]) {
+        for (const Json& pile : piles) {
+            for (const Json& card : pile) deck.at(card.at(0).get<std::size_t>()) = card.at(1).get<int>();
+        }
+    }
+    deck.erase(std::find(deck.begin(), deck.end(), -1), deck.end());
+    return deck;
+}
+
+TEST_F(LabTest, AWholeDeckIsDealtAsItIsGiven) {
+    const auto startDeck = [this](std::string_view game, const std::vector<int>& deck) {
+        return Ask("startdeck \"" + std::string(game) + "\" " + Json(deck).dump());
+    };
+    for (const char* name : {"Klondike", "Giant", "Stripped Klondike"}) {
+        SCOPED_TRACE(name);
+        const Json dealt = Ask(Start(name, "5"));
+        std::vector<int> deck = DeckOf(dealt);
+        const Json given = startDeck(name, deck);
+        EXPECT_EQ(given["cells"], dealt["cells"]);
+        EXPECT_EQ(given["number"], 0);
+        EXPECT_EQ(given["draws"], Json::array());
+        EXPECT_TRUE(Ask("startdeck \"" + std::string(name) + "\" [ 0, 1 ]").contains("error"));
+        deck.front() = deck.back();
+        EXPECT_THAT(startDeck(name, deck)["error"].get<std::string>(), HasSubstr("once"));
+        EXPECT_EQ(Ask("state"), Without(given, "draws"));
+    }
+    // This deal draws a pile for each card: the same piles whatever the deck, those of the number 0.
+    const std::vector<int> deck = DeckOf(Ask(Start("See-Saw Spider", "5")));
+    const Json given = startDeck("See-Saw Spider", deck);
+    EXPECT_EQ(DeckOf(given), deck);
+    EXPECT_EQ(given["draws"], Ask(Start("See-Saw Spider", "0"))["draws"]);
 }
 
 TEST_F(LabTest, DragMovesExactlyAndPressPicks) {

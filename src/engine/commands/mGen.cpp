@@ -85,8 +85,9 @@ public:
     DealingFlag& operator=(const DealingFlag&) = delete;
 };
 
-void Deal(const GameNumber& number) {
+void Deal(const GameNumber& number, const std::vector<int>* deck = nullptr) {
     gArray->Init(number);
+    if (deck) gArray->SetDeck(*deck);
     mPlay::AssignFaces();
     gTrans = std::make_unique<cTrans>();
     NoteStartTime();
@@ -172,7 +173,9 @@ std::string GameCaption() {
            mGameNumber::Text(figures.CurGNo) + "]";
 }
 
-void StartGame(const std::string& name, const GameNumber& number) {
+namespace {
+
+void Start(const std::string& name, const GameNumber& number, const std::vector<int>* deck) {
     if (dealing || gData->GetGameID(name) == 0) return;
     const Action action;
     // Both may belong to what the steps below change, such as the current game of a restart.
@@ -188,7 +191,7 @@ void StartGame(const std::string& name, const GameNumber& number) {
     {
         const DealingFlag flag;
         gDrag = {};
-        Deal(gameNumber);
+        Deal(gameNumber, deck);
     }
     gData->Figures.GameRunning = true;
     const mSpoken::Change change;
@@ -197,6 +200,12 @@ void StartGame(const std::string& name, const GameNumber& number) {
     const std::string went = change.Text();
     mSpoken::Say(game + " dealt" + (went.empty() ? "" : ", " + went));
 }
+
+}  // namespace
+
+void StartGame(const std::string& name, const GameNumber& number) { Start(name, number, nullptr); }
+
+void StartDeck(const std::string& name, const std::vector<int>& deck) { Start(name, 0.0, &deck); }
 
 void CloseGame(int mWon) {
     gScore->AddScore(mWon);

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "engine/outside/windowlayer.h"
 #include "engine/state/GameNumber.h"
@@ -17,6 +18,9 @@ void ReleaseAll();
 /// Closes a running game as lost and starts another. Ignored while cards are being dealt, and for a
 /// name that is in no family: the table stays as it is.
 void StartGame(const std::string& name, const GameNumber& number);
+/// The same with the number 0 and a deck that was made elsewhere in place of its shuffle: the card values by
+/// PicID, a permutation of 0 to TotalCards - 1. What the deal draws is that of the number 0.
+void StartDeck(const std::string& name, const std::vector<int>& deck);
 /// Fills gGames for that game.
 void SetGameRules(const std::string& name);
 /// Records the running game (1 won, 0 lost) and clears the table. A game must run.

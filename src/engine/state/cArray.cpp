@@ -1,6 +1,7 @@
 // The card table: tables, shuffle, and the move that all play, deal, Undo and Redo go through.
 #include "engine/state/cArray.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "engine/state/cGames.h"
@@ -28,6 +29,12 @@ void cArray::Init(const GameNumber& GameNo) {
     posTable_.assign(places, -1);
     topTable_.fill(-1);
     randTable_ = mDeal::Shuffle(totalCards_, mGameNumber::Value(GameNo), Random);
+}
+
+void cArray::SetDeck(const std::vector<int>& values) {
+    if (static_cast<int>(values.size()) != totalCards_) throw std::invalid_argument("cArray: no whole deck");
+    std::transform(values.begin(), values.end(), randTable_.begin(),
+                   [](int value) { return static_cast<short>(value); });
 }
 
 int cArray::GetRandom(int PicID) const {

@@ -13,6 +13,10 @@ class cArray {
 public:
     /// Empties the tables and shuffles by the game number: the same number, the same order of cards.
     void Init(const GameNumber& GameNo);
+    /// Puts these card values, by PicID, in place of those of the shuffle. They are a permutation of 0 to
+    /// TotalCards - 1; another count throws std::invalid_argument. The source stays where the shuffle left
+    /// it.
+    void SetDeck(const std::vector<int>& values);
 
     /// The card value of a PicID, 0 to TotalCards - 1.
     [[nodiscard]] int GetRandom(int PicID) const;
