@@ -1,0 +1,177 @@
+// The search: one position, moved about in a tree of moves.
+#include "solver/Search.h"
+
+#include <algorithm>
+
+namespace Solver {
+
+Search::Search(const cGames& game, Switches switches)
+    : rules_(game, switches),
+      talonFree_(rules_.TalonFree),
+      weights_(rules_),
+      position_(rules_, weights_),
+      dominance_(rules_) {}
+
+Result Search::Solve(const mDeal::Opening& opening, const Limits& limits) {
+    rules_.SetBase(opening.Base, opening.EmptyNum);
+    weights_.CountSteps(rules_, opening);
+    position_.Begin(opening);
+    return SolvePosition(limits);
+}
+
+Result Search::SolvePosition(const Limits& limits) {
+    rules_.TalonFree = talonFree_ && !Plain;
+    met_.Clear();
+    nodes_.clear();
+    path_.clear();
+    for (OpenList& open : open_) open.Clear();
+    won_ = NoNode;
+    const std::size_t most = limits.MemoryMB * 1024 * 1024 / BytesPerState;
+    const std::size_t limit = limits.States == 0 ? most : std::min(most, limits.States);
+
+    Result result;
+    nodes_.push_back({NoNode, {}, 0, true});
+    path_.push_back({0, position_.Mark()});
+    std::vector<Move> first;
+    position_.Trace = &first;
+    PlaySafeCards();
+    position_.Trace = nullptr;
+    met_.Insert(position_.Hash());
+    if (position_.Won()) {
+        won_ = 0;
+    } else {
+        Expand(0);
+    }
+    result.Answer = Answer::Lost;
+    const std::size_t startOfPath = path_.front().Mark;
+    while (won_ == NoNode) {
+        // Each stage in its turn: positions of different stages look too different to be compared.
+        std::size_t tried = 0;
+        while (tried < open_.size() && open_[stage_ = (stage_ + 1) % open_.size()].IsEmpty()) ++tried;
+        if (tried == open_.size()) break;
+        if (met_.Count() >= limit) {
+            result.Answer = Answer::Unknown;
+            break;
+        }
+        const std::uint32_t node = open_[stage_].Pop();
+        GoTo(node);
+        Expand(node);
+    }
+    if (won_ != NoNode) {
+        result.Answer = Answer::Won;
+        position_.TakeBack(startOfPath);
+        result.Moves = MovesTo(won_);
+    }
+    result.States = met_.Count();
+    return result;
+}
+
+void Search::PlaySafeCards() {
+    if (Plain) return;
+    while (!position_.Won()) {
+        const auto move = dominance_.SafeMove(position_);
+        if (!move) return;
+        position_.Make(*move);
+    }
+}
+
+void Search::MakeStep(const Node& node) {
+    position_.Make(node.Made);
+    if (!node.Inner) PlaySafeCards();
+}
+
+// Back to where the ways part, and forward from there.
+void Search::GoTo(std::uint32_t node) {
+    static thread_local std::vector<std::uint32_t> forward;
+    forward.clear();
+    while (nodes_[node].Depth >= path_.size() || path_[nodes_[node].Depth].Number != node) {
+        forward.push_back(node);
+        node = nodes_[node].Before;
+    }
+    const std::size_t kept = nodes_[node].Depth + std::size_t{1};
+    if (kept < path_.size()) {
+        position_.TakeBack(path_[kept].Mark);
+        path_.resize(kept);
+    }
+    for (auto number = forward.rbegin(); number != forward.rend(); ++number) {
+        path_.push_back({*number, position_.Mark()});
+        MakeStep(nodes_[*number]);
+    }
+}
+
+std::uint32_t Search::AddNode(std::uint32_t before, const Move& move, bool inner) {
+    const auto number = static_cast<std::uint32_t>(nodes_.size());
+    nodes_.push_back({before, move, static_cast<std::uint16_t>(nodes_[before].Depth + 1), inner});
+    return number;
+}
+
+void Search::Enqueue(std::uint32_t node) {
+    const auto stage = static_cast<std::size_t>(Stage());
+    if (stage >= open_.size()) open_.resize(stage + 1);
+    open_[stage].Push(Worth() + weights_.Depth * nodes_[node].Depth, node);
+}
+
+bool Search::Expand(std::uint32_t node) {
+    list_.Clear();
+    if (Plain) {
+        for (const Move& move : LegalMoves(position_)) list_.Add(move);
+    } else {
+        UsefulMoves(position_, dominance_, list_);
+    }
+    const std::size_t mark = position_.Mark();
+    for (std::size_t chain = 0; chain < list_.Count(); ++chain) {
+        for (const Move* move = list_.Begin(chain); move != list_.End(chain); ++move) position_.Make(*move);
+        PlaySafeCards();
+        if (met_.Insert(position_.Hash())) {
+            std::uint32_t last = node;
+            for (const Move* move = list_.Begin(chain); move != list_.End(chain); ++move) {
+                last = AddNode(last, *move, move + 1 != list_.End(chain));
+            }
+            if (position_.Won()) {
+                won_ = last;
+                position_.TakeBack(mark);
+                return true;
+            }
+            Enqueue(last);
+        }
+        position_.TakeBack(mark);
+    }
+    return false;
+}
+
+int Search::Stage() const {
+    if (rules_.Gathers && rules_.CanRedeal) return std::max(0, rules_.Redeals - position_.RedealsMade());
+    const bool onto = !rules_.OpenStock && (rules_.Press == StockMove::OneToEachPile ||
+                                            rules_.Press == StockMove::FirstThreeToPiles);
+    return onto ? (position_.Count(StockPile) + rules_.HomePiles - 1) / rules_.HomePiles : 0;
+}
+
+int Search::Worth() const {
+    int worth = position_.PilesWorth() + weights_.Home * position_.CardsHome() +
+                weights_.EmptyPile * position_.CountEmpty(FirstHome, rules_.HomePiles) +
+                weights_.Talon * (position_.Count(StockPile) + position_.Count(WastePile));
+    if (rules_.FreeCells) {
+        worth += weights_.EmptyCell * position_.CountEmpty(FirstRes, rules_.ResPiles);
+    } else {
+        for (int pile = FirstRes; pile < FirstRes + rules_.ResPiles; ++pile) {
+            worth += weights_.Reserve * position_.Count(pile);
+        }
+    }
+    return worth;
+}
+
+// Makes them once more, to learn which cards went home by the way.
+std::vector<Move> Search::MovesTo(std::uint32_t node) {
+    std::vector<std::uint32_t> numbers;
+    for (; node != 0; node = nodes_[node].Before) numbers.push_back(node);
+    std::vector<Move> moves;
+    position_.Trace = &moves;
+    const std::size_t mark = position_.Mark();
+    PlaySafeCards();
+    for (auto number = numbers.rbegin(); number != numbers.rend(); ++number) MakeStep(nodes_[*number]);
+    position_.Trace = nullptr;
+    position_.TakeBack(mark);
+    return moves;
+}
+
+}  // namespace Solver

@@ -1,0 +1,92 @@
+// Looks for a way to win a deal, best positions first, until one is found, all positions have been looked
+// into, or a limit is reached.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "solver/Dominance.h"
+#include "solver/HashTable.h"
+#include "solver/OpenList.h"
+#include "solver/Position.h"
+#include "solver/Rules.h"
+#include "solver/UsefulMoves.h"
+#include "solver/Weights.h"
+
+namespace Solver {
+
+enum class Answer {
+    Won,
+    Lost,     ///< all that can be reached has been looked into: it cannot be won
+    Unknown,  ///< a limit was reached
+};
+
+struct Limits {
+    std::size_t States = 0;  ///< 0: no limit but memory
+    std::size_t MemoryMB = 512;
+};
+
+struct Result {
+    Solver::Answer Answer = Answer::Unknown;
+    std::size_t States = 0;   ///< different positions met
+    std::vector<Move> Moves;  ///< of a win, one by one as a player makes them
+};
+
+class Search {
+public:
+    /// What a state takes at most: 12 of its node, up to as much again while the nodes' vector grows, up to
+    /// 22 of its slot in the table (and half of that while it grows), up to 8 in the open list.
+    static constexpr std::size_t BytesPerState = 64;
+
+    Search(const cGames& game, Switches switches);
+
+    /// The weights may be changed before a search.
+    Weights& Order() { return weights_; }
+
+    [[nodiscard]] Result Solve(const mDeal::Opening& opening, const Limits& limits);
+    /// Goes on from the position as it lies: cards were put on it by hand.
+    [[nodiscard]] Result SolvePosition(const Limits& limits);
+    [[nodiscard]] Position& Table() { return position_; }
+    [[nodiscard]] Rules& Game() { return rules_; }
+    /// Looks into all moves that the rules allow and leaves nothing out: slow, to hold the other way against.
+    bool Plain = false;
+
+private:
+    static constexpr std::uint32_t NoNode = 0xffffffff;
+    struct Node {
+        std::uint32_t Before;
+        Move Made;
+        std::uint16_t Depth;
+        bool Inner;  ///< inside a chain of moves: nothing safe is played after it
+    };
+    struct Step {
+        std::uint32_t Number;
+        std::size_t Mark;  ///< of the position before the step
+    };
+
+    void PlaySafeCards();
+    void MakeStep(const Node& node);
+    void GoTo(std::uint32_t node);
+    bool Expand(std::uint32_t node);
+    std::uint32_t AddNode(std::uint32_t before, const Move& move, bool inner);
+    void Enqueue(std::uint32_t node);
+    [[nodiscard]] int Stage() const;
+    [[nodiscard]] int Worth() const;
+    [[nodiscard]] std::vector<Move> MovesTo(std::uint32_t node);
+
+    Rules rules_;
+    bool talonFree_;
+    Weights weights_;
+    Position position_;
+    Dominance dominance_;
+    HashTable met_;
+    std::vector<Node> nodes_;
+    std::vector<Step> path_;
+    std::vector<OpenList> open_;
+    std::uint32_t won_ = NoNode;
+    std::size_t stage_ = 0;
+    MoveList list_;
+};
+
+}  // namespace Solver
