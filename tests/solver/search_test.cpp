@@ -1,0 +1,217 @@
+// The search: what it leaves out loses no answer, looser rules lose no win, and its wins are wins for the
+// engine.
+#include <algorithm>
+#include <cstdlib>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "SolutionReplay.h"
+#include "engine/catalogue/definition.h"
+#include "solver/Games.h"
+#include "solver/Search.h"
+
+namespace {
+
+using Solver::Answer;
+using Solver::Result;
+using Solver::Search;
+using Solver::Switches;
+
+cGames Named(const std::string& name) { return Solver::NumbersOf(*Solver::FindGame(name)); }
+
+// For long runs by hand: so many rounds over all games. Without, one round over some of them.
+int Rounds() {
+    const char* const wanted = std::getenv("TARNIVAL_SOLVER_ROUNDS");
+    return wanted ? std::atoi(wanted) : 0;
+}
+
+std::vector<const Definition*> SomeGames(std::size_t each) {
+    std::vector<const Definition*> games;
+    const std::vector<const Definition*> all = Solver::AllGames();
+    for (std::size_t i = 0; i<all.size(); i += Rounds()> 0 ? 1 : each) games.push_back(all[i]);
+    return games;
+}
+
+// Lays out the end of a game: all but `left` cards at home or nearly so, the rest anywhere.
+class Endgame {
+public:
+    Endgame(Search& search, const mDeal::Opening& opening, std::uint32_t seed)
+        : table_(search.Table()), rules_(search.Game()), random_(seed) {
+        rules_.SetBase(opening.Base, opening.EmptyNum);
+        search.Order().CountSteps(rules_, opening);
+        table_.Clear();
+        for (int value = 0; value < rules_.TotalCards; ++value) {
+            left_.push_back(static_cast<Solver::Card>(value % Solver::Kinds +
+                                                      (value >= Solver::Kinds ? Solver::SecondDeck : 0)));
+        }
+        std::shuffle(left_.begin(), left_.end(), random_);
+        for (std::size_t pile = 0; pile < opening.Piles[Goal].size(); ++pile) {
+            for (const mDeal::Lying& lying : opening.Piles[Goal][pile]) {
+                const CardFace& face = opening.Cards[static_cast<std::size_t>(lying.PicID)];
+                PutHome(Solver::FirstGoal + static_cast<int>(pile),
+                        static_cast<Solver::Card>(face.Suitpile % SuitCount * RankCount + face.Num +
+                                                  (face.Suitpile >= SuitCount ? Solver::SecondDeck : 0)));
+            }
+        }
+        constexpr std::size_t CardsLeft = 8;
+        const std::size_t wanted = rules_.RunsLeave ? RankCount : CardsLeft;
+        while (left_.size() > wanted && (rules_.RunsLeave ? PutRun() : PutOne())) {
+        }
+        for (const Solver::Card card : left_) table_.Put(SomePile(), card);
+        left_.clear();
+        table_.Settle();
+    }
+
+private:
+    void PutHome(int pile, Solver::Card card) {
+        table_.Put(pile, card);
+        left_.erase(std::find(left_.begin(), left_.end(), card));
+    }
+
+    bool PutOne() {
+        for (const Solver::Card card : left_) {
+            for (int goal = Solver::FirstGoal; goal < Solver::FirstGoal + rules_.GoalPiles; ++goal) {
+                if (!table_.GoalAccepts(Solver::KindOf(card), goal)) continue;
+                PutHome(goal, card);
+                return true;
+            }
+        }
+        return false;
+    }
+
+    // A run of the first cards that follow each other as runs do when they leave.
+    bool PutRun() {
+        const auto top = std::find_if(left_.begin(), left_.end(), [this](Solver::Card card) {
+            return Solver::RankOf(Solver::KindOf(card)) == rules_.RunTop;
+        });
+        std::vector<Solver::Card> run{*top};
+        while (run.size() < RankCount) {
+            const auto next = std::find_if(left_.begin(), left_.end(), [&](Solver::Card card) {
+                return Solver::Has(rules_.RunFits[static_cast<std::size_t>(Solver::KindOf(card))],
+                                   Solver::KindOf(run.back()));
+            });
+            if (next == left_.end()) return false;
+            run.push_back(*next);
+        }
+        const int suitpile =
+            Solver::KindOf(run[0]) / RankCount + ((run[0] & Solver::SecondDeck) != 0 ? SuitCount : 0);
+        const int goal = Solver::FirstGoal + (rules_.GoalDiv != 0 ? suitpile % rules_.GoalDiv : suitpile);
+        for (const Solver::Card card : run) PutHome(goal, card);
+        return true;
+    }
+
+    // Mostly the tableau.
+    int SomePile() {
+        const auto below = [this](int count) {
+            return static_cast<int>(random_() % static_cast<unsigned>(count));
+        };
+        const int where = below(10);
+        if (where == 0 && rules_.ResPiles > 0) {
+            const int pile = Solver::FirstRes + below(rules_.ResPiles);
+            if (!rules_.FreeCells || table_.IsEmpty(pile)) return pile;
+        }
+        const bool stock = rules_.Press != StockMove::None || rules_.OpenStock;
+        if (where <= 2 && stock) return Solver::StockPile;
+        return Solver::FirstHome + below(std::min(rules_.HomePiles, 4));
+    }
+
+    Solver::Position& table_;
+    Solver::Rules& rules_;
+    std::mt19937 random_;
+    std::vector<Solver::Card> left_;
+};
+
+TEST(SolverSearch, LosesNoAnswerByWhatItLeavesOut) {
+    constexpr Solver::Limits limits{.States = 700};
+    int won = 0;
+    int lost = 0;
+    const auto rounds = static_cast<std::uint32_t>(std::max(1, Rounds()));
+    for (const Definition* game : SomeGames(1)) {
+        const cGames numbers = Solver::NumbersOf(*game);
+        for (std::uint32_t round = 0; round < rounds; ++round) {
+            Search search(numbers, {.NoReturn = round % 3 == 1, .SingleCards = round % 5 == 4});
+            const mDeal::Opening opening = mDeal::Deal(numbers, round + 1);
+            search.Plain = true;
+            const Endgame plainTable(search, opening, round);
+            const Result plain = search.SolvePosition(limits);
+            if (plain.Answer == Answer::Unknown) continue;
+            ++(plain.Answer == Answer::Won ? won : lost);
+            search.Plain = false;
+            const Endgame table(search, opening, round);
+            EXPECT_EQ(search.SolvePosition(limits).Answer, plain.Answer) << game->Name << ", round " << round;
+        }
+    }
+    // Both answers must have been asked for.
+    EXPECT_GT(won, 20);
+    EXPECT_GT(lost, 20);
+}
+
+TEST(SolverSearch, WinsNoLessUnderLooserRules) {
+    struct Pair {
+        std::string Strict, Loose;
+        Switches StrictSwitches;
+    };
+    const std::vector<Pair> pairs{
+        {"Freecell", "Freecell", {.NoReturn = true, .SingleCards = true}},
+        {"Fan", "Fan", {.NoReturn = true}},
+        {"Lawn", "Lawn", {.SingleCards = true}},
+        {"King Albert", "King Albert", {.NoReturn = true}},
+        {"Streets and Alleys", "Streets and Alleys", {.NoReturn = true}},
+        {"Somerset", "Somerset", {.Autoplay = true}},
+        {"Raglan", "Raglan", {.NoReturn = true, .Autoplay = true}},
+        {"Canfield", "Canfield", {.SingleCards = true}},
+        // Near twins of the catalogue: the same cards, and one rule more generous.
+        {"British Canister", "American Canister", {}},
+        {"Lawn", "Simple Session", {}},
+        {"Russian Solitaire", "Russian Solitaire Plus", {}},
+    };
+    int answered = 0;
+    for (const Pair& pair : pairs) {
+        Search strict(Named(pair.Strict), pair.StrictSwitches);
+        Search loose(Named(pair.Loose), {});
+        for (int number = 1; number <= 2 * std::max(1, Rounds()); ++number) {
+            constexpr Solver::Limits limits{.States = 3000};
+            if (strict.Solve(mDeal::Deal(Named(pair.Strict), number), limits).Answer != Answer::Won) continue;
+            ++answered;
+            EXPECT_NE(loose.Solve(mDeal::Deal(Named(pair.Loose), number), limits).Answer, Answer::Lost)
+                << pair.Loose << " " << number;
+        }
+    }
+    EXPECT_GT(answered, 5);
+}
+
+TEST(SolverSearch, WinsAreWinsForTheEngine) {
+    const int rounds = std::max(1, Rounds());
+    for (const bool autoplay : {false, true}) {
+        SolutionReplay engine(autoplay);
+        int wins = 0;
+        for (const Definition* game : SomeGames(autoplay ? 5 : 2)) {
+            const cGames numbers = Solver::NumbersOf(*game);
+            Search search(numbers, {.Autoplay = autoplay});
+            for (int number = 1; number <= rounds; ++number) {
+                const Result result = search.Solve(mDeal::Deal(numbers, number), {.States = 1500});
+                if (result.Answer != Answer::Won) continue;
+                ++wins;
+                EXPECT_TRUE(engine.Wins(std::string(game->Name), static_cast<double>(number), result.Moves))
+                    << game->Name << " " << number;
+            }
+        }
+        EXPECT_GT(wins, 5);
+    }
+}
+
+TEST(SolverSearch, StopsAtItsLimits) {
+    Search search(Named("Simple Simon"), {});
+    const mDeal::Opening opening = mDeal::Deal(Named("Simple Simon"), 1);
+    const Result result = search.Solve(opening, {.States = 10});
+    EXPECT_EQ(result.Answer, Answer::Unknown);
+    EXPECT_GE(result.States, 10U);
+    EXPECT_LT(result.States, 200U);  // the moves of one position more at most
+    EXPECT_EQ(search.Solve(opening, {.States = 0, .MemoryMB = 1}).States / 1000,
+              1024 * 1024 / Search::BytesPerState / 1000);
+}
+
+}  // namespace
