@@ -80,7 +80,10 @@ void RunWanted() {
 class DealingFlag {
 public:
     DealingFlag() { dealing = true; }
-    ~DealingFlag() { dealing = false; }
+    ~DealingFlag() {
+        dealing = false;
+        PicBack.SetHurried(false);
+    }
     DealingFlag(const DealingFlag&) = delete;
     DealingFlag& operator=(const DealingFlag&) = delete;
 };
@@ -239,6 +242,10 @@ int CalcScore() {
 }
 
 bool Dealing() { return dealing; }
+
+void HurryDeal() {
+    if (dealing) PicBack.SetHurried(true);
+}
 
 Action::Action() : exceptions_(std::uncaught_exceptions()) { ++openActions; }
 

@@ -35,6 +35,9 @@ void RefreshRecent();
 [[nodiscard]] int CalcScore();
 /// Cards are being dealt; commands that start or close a game are ignored.
 [[nodiscard]] bool Dealing();
+/// Shows the rest of the deal at once; the cards and their places are the same. Without a deal it does
+/// nothing.
+void HurryDeal();
 /// The caption of the main window for the running game.
 [[nodiscard]] std::string GameCaption();
 

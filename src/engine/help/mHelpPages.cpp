@@ -74,6 +74,7 @@ const std::vector<Page>& All() {
           "A press on a face-down stock deals from it: to the waste or to the tableau, as the rules of the "
           "game "
           "say. Where the game allows a redeal, click on the mark under the empty stock.",
+          "While cards are dealt, a press on the table or a key shows the rest of the deal at once.",
           "The right button on the empty table opens a menu for its size: Zoom In, Zoom Out, Actual Size, "
           "Fit "
           "Game to Window and Full Screen. The wheel zooms while Ctrl is held down, even with a card in the "

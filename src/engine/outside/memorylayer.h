@@ -2,6 +2,7 @@
 // the text driver run the engine over it; what it is told is kept for a test to look at.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <map>
@@ -20,13 +21,18 @@ public:
     void CardChanged(int) override { ++Changes; }
     void MarkChanged(MarkKind, int) override {}
     void Refresh() override { ++Refreshes; }
-    void ShowStep() override { ++Steps; }
+    void ShowStep(double limit) override {
+        constexpr double Refresh = 1000.0 / 60;
+        ++Steps;
+        Waited += std::min(limit, Refresh);
+    }
     /// Runs what a test wants to happen in the middle of a deal.
     void LetEventsRun() override {
         if (OnEvents) OnEvents();
     }
 
     long Moves = 0, Raises = 0, Changes = 0, Refreshes = 0, Steps = 0;
+    double Waited = 0;  ///< milliseconds that a screen would have shown the steps
     std::function<void()> OnEvents;
 };
 

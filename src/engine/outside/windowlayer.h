@@ -23,8 +23,10 @@ public:
     virtual void MarkChanged(MarkKind kind, int index) = 0;
     /// Repaints the plate at once, without letting events run.
     virtual void Refresh() = 0;
-    /// Repaints the plate and keeps it so for one refresh of the screen, without letting events run.
-    virtual void ShowStep() = 0;
+    /// Repaints the plate and keeps it so for one refresh of the screen, but no longer than `limit`
+    /// milliseconds, without letting events run. A step whose time is over before it could be painted may
+    /// be left to the next one.
+    virtual void ShowStep(double limit) = 0;
     /// Lets pending window events run.
     virtual void LetEventsRun() = 0;
 };

@@ -1,6 +1,7 @@
 // The stock's commands and the redeals.
 #include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
+#include "engine/state/StepBudget.h"
 #include "engine/state/cArray.h"
 #include "engine/state/cGames.h"
 #include "engine/state/cPlate.h"
@@ -79,6 +80,7 @@ void RedealClick() {
 
 void RedealToStock() {
     constexpr int Speed = 2;
+    const StepBudget budget(Speed * (gArray->GetTop(Waste) + 1));
     ++gRedealCount;
     gTrans->StartMulti();
     while (gArray->GetTop(Waste) >= 0) {
@@ -91,17 +93,23 @@ void RedealToStock() {
 
 void RedealGather() {
     ++gRedealCount;
-    gTrans->StartMulti();
-    for (int p = 0; p < gGames->Piles(Home); ++p) {
-        while (gArray->GetTop(Home, p) >= 0) {
-            gArray->MoveCard(gArray->GetTopPicID(Home, p), Stock, 0, gArray->GetTop(Stock) + 1, tMod::ToStock,
-                             1, 0, 1, true);
+    {
+        int gathered = 0;
+        for (int p = 0; p < gGames->Piles(Home); ++p) gathered += gArray->GetTop(Home, p) + 1;
+        const StepBudget budget(2 * gathered + gArray->GetTop(Stock) + 1);
+        gTrans->StartMulti();
+        for (int p = 0; p < gGames->Piles(Home); ++p) {
+            while (gArray->GetTop(Home, p) >= 0) {
+                gArray->MoveCard(gArray->GetTopPicID(Home, p), Stock, 0, gArray->GetTop(Stock) + 1,
+                                 tMod::ToStock, 1, 0, 1, true);
+            }
         }
+        for (int row = 0; gArray->GetTop(Stock) >= 0; ++row) {
+            for (int p = 0; p < gGames->Piles(Home) && gArray->GetTop(Stock) >= 0; ++p)
+                DealFromStock(p, row, 1);
+        }
+        gTrans->EndMulti();
     }
-    for (int row = 0; gArray->GetTop(Stock) >= 0; ++row) {
-        for (int p = 0; p < gGames->Piles(Home) && gArray->GetTop(Stock) >= 0; ++p) DealFromStock(p, row, 1);
-    }
-    gTrans->EndMulti();
     CloseStockAfterLastRedeal();
     AutoPlayAll();
 }

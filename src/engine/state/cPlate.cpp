@@ -118,7 +118,7 @@ void cPlate::Refresh() {
 }
 
 void cPlate::ShowStep() {
-    if (stage_) stage_->ShowStep();
+    if (stage_ && !hurried_) stage_->ShowStep(stepLimit_);
 }
 
 void cPlate::LetEventsRun() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <limits>
 
 #include "engine/outside/windowlayer.h"
 #include "engine/state/Card.h"
@@ -86,6 +87,14 @@ public:
     void ShowStep();
     void LetEventsRun();
 
+    /// The longest that a step may be shown, in milliseconds.
+    static constexpr double NoStepLimit = std::numeric_limits<double>::infinity();
+    void SetStepLimit(double milliseconds) { stepLimit_ = milliseconds; }
+    [[nodiscard]] double StepLimit() const { return stepLimit_; }
+    /// While it is set, steps are not shown at all; cards still come to lie where they belong.
+    void SetHurried(bool hurried) { hurried_ = hurried; }
+    [[nodiscard]] bool Hurried() const { return hurried_; }
+
     /// Equal records; who watches plays no part.
     bool operator==(const cPlate& other) const { return cards_ == other.cards_ && marks_ == other.marks_; }
 
@@ -96,6 +105,8 @@ private:
     std::array<CardRecord, MaxCards> cards_{};
     std::array<MarkRecord, 38> marks_{};  // 18 tableau, 8 foundation, 10 reserve, waste, stock
     int nextOrder_ = 1;
+    double stepLimit_ = NoStepLimit;
+    bool hurried_ = false;
     CardStage* stage_ = nullptr;
 };
 

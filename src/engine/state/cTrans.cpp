@@ -1,11 +1,13 @@
 // The transaction log: saving, undoing and redoing moves, and the rows of the history list.
 #include "engine/state/cTrans.h"
 
+#include <algorithm>
 #include <array>
 #include <stdexcept>
 
 #include <fmt/format.h>
 
+#include "engine/state/StepBudget.h"
 #include "engine/state/cArray.h"
 #include "engine/state/cData.h"
 #include "engine/state/cGames.h"
@@ -66,9 +68,25 @@ const TransRec& cTrans::Record(int i) const {
     return records_[static_cast<std::size_t>(i)];
 }
 
+// Only the first record of a group goes at the speed asked for, the others in one step each.
+int cTrans::StepsBack(int first, int last, int Speed) const {
+    int steps = 0;
+    for (int i = first; i <= last; ++i) steps += Record(i).Multi == 1 ? 1 : Speed;
+    return steps;
+}
+
+int cTrans::StepsForward(int first, int last, int Speed) const {
+    int steps = 0;
+    for (int i = first; i <= last; ++i) steps += i > 1 && Record(i - 1).Multi == 1 ? 1 : Speed;
+    return steps;
+}
+
 bool cTrans::Undo(int Speed) {
+    if (transID_ < 1) return false;
+    int first = transID_;
+    while (first > 1 && Record(first - 1).Multi == 1) --first;
+    const StepBudget budget(StepsBack(first, transID_, Speed));
     do {
-        if (transID_ < 1) return false;
         const TransRec record = records_[static_cast<std::size_t>(transID_)];
         if (record.Multi == 1) Speed = 1;
         if (Speed > QuietSpeed) gData->PlaySound("Undo");
@@ -82,6 +100,9 @@ bool cTrans::Undo(int Speed) {
 }
 
 bool cTrans::Redo(int Speed) {
+    int last = transID_ + 1;
+    while (last < MaxTrans() && Record(last).Multi == 1) ++last;
+    const StepBudget budget(StepsForward(transID_ + 1, std::min(last, MaxTrans()), Speed));
     while (true) {
         if (transID_ == MaxTrans()) return false;
         if (records_[static_cast<std::size_t>(transID_)].Multi == 1) Speed = 1;
@@ -98,10 +119,12 @@ bool cTrans::Redo(int Speed) {
 }
 
 void cTrans::UndoAll(int Speed) {
+    const StepBudget budget(StepsBack(1, transID_, Speed));
     while (transID_ >= 1 && gData->Figures.GameRunning) Undo(Speed);
 }
 
 void cTrans::RedoAll(int Speed) {
+    const StepBudget budget(StepsForward(transID_ + 1, MaxTrans(), Speed));
     while (transID_ != MaxTrans() && gData->Figures.GameRunning) Redo(Speed);
 }
 

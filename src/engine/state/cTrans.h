@@ -41,6 +41,7 @@ public:
     /// Take back or make again one step; false at the end of the log. `Speed` counts animation steps.
     bool Undo(int Speed = 1);
     bool Redo(int Speed = 1);
+    // All of them, within the time of one StepBudget.
     void UndoAll(int Speed = 1);
     void RedoAll(int Speed = 1);
 
@@ -64,6 +65,10 @@ public:
     bool operator==(const cTrans&) const = default;
 
 private:
+    /// How many steps the records `first` to `last` show, taken back or made again at that speed.
+    [[nodiscard]] int StepsBack(int first, int last, int Speed) const;
+    [[nodiscard]] int StepsForward(int first, int last, int Speed) const;
+
     int transID_ = 0;
     int multiDepth_ = 0;
     std::vector<TransRec> records_ = std::vector<TransRec>(1);  // index 0 stays empty

@@ -150,8 +150,8 @@ void ProgramStage::Refresh() {
     if (table_) table_->Refresh();
 }
 
-void ProgramStage::ShowStep() {
-    if (table_) table_->ShowStep();
+void ProgramStage::ShowStep(double limit) {
+    if (table_) table_->ShowStep(limit);
 }
 
 void ProgramStage::LetEventsRun() {

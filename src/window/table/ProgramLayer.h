@@ -55,7 +55,7 @@ public:
     void CardChanged(int PicID) override;
     void MarkChanged(MarkKind kind, int index) override;
     void Refresh() override;
-    void ShowStep() override;
+    void ShowStep(double limit) override;
     void LetEventsRun() override;
 
 private:

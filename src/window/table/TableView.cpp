@@ -1,6 +1,7 @@
 // The table's scene and its repaints.
 #include "window/table/TableView.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QAccessible>
@@ -43,6 +44,7 @@ TableView::TableView(QWidget* parent) : QGraphicsView(parent) {
         scene_.addItem(mark);
     });
     QAccessible::installFactory(TableAccess::Make);
+    clock_.start();
     tellDue_.setSingleShot(true);
     connect(&tellDue_, &QTimer::timeout, this, &TableView::TellChanges);
 }
@@ -88,6 +90,12 @@ bool TableView::event(QEvent* event) {
 }
 
 bool TableView::viewportEvent(QEvent* event) {
+    // The press is for nothing else: no card can be lifted yet.
+    if (mGen::Dealing() &&
+        (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)) {
+        mGen::HurryDeal();
+        return true;
+    }
     if (event->isSinglePointEvent()) pointer_ = static_cast<QSinglePointEvent*>(event)->globalPosition();
     return QGraphicsView::viewportEvent(event);
 }
@@ -198,18 +206,27 @@ double TableView::RefreshPeriod() const {
     return 1000.0 / (rate >= 1.0 ? rate : UnknownRate);
 }
 
-void TableView::ShowStep() {
+void TableView::ShowStep(double limit) {
     if (!isVisible()) return;
+    constexpr double NanosecondsPerMs = 1e6;
+    const auto now = [this] { return static_cast<double>(clock_.nsecsElapsed()) / NanosecondsPerMs; };
+    const double refresh = RefreshPeriod();
+    const bool hurried = limit < refresh;
+    const double start = now();
+    if (start > stepEnd_ + 2 * refresh) stepEnd_ = start;  // after a pause
+    const double end = stepEnd_ + std::min(limit, refresh);
+    // A command that may take only so long leaves out what the painting of other steps took the time from.
+    if (hurried && start > end) {
+        stepEnd_ = end;
+        return;
+    }
     Refresh();
     // From step to step one period, the time of drawing included, so that a long trip keeps the pace of
     // the screen; after a pause the first step is shown for a whole period.
-    const double period = RefreshPeriod();
-    constexpr double NanosecondsPerMs = 1e6;
-    const double passed =
-        sinceStep_.isValid() ? static_cast<double>(sinceStep_.nsecsElapsed()) / NanosecondsPerMs : 2 * period;
-    const double rest = passed > period ? (passed > 2 * period ? period : 0.0) : period - passed;
-    if (rest > 0) QThread::usleep(static_cast<unsigned long>(rest * 1000));
-    sinceStep_.start();
+    const double rest = end - now();
+    constexpr double MicrosecondsPerMs = 1000.0;
+    if (rest > 0) QThread::usleep(static_cast<unsigned long>(rest * MicrosecondsPerMs));
+    stepEnd_ = hurried ? end : now();
 }
 
 void TableView::LetEventsRun() {

@@ -36,7 +36,7 @@ public:
     void CardChanged(int PicID) override;
     void MarkChanged(MarkKind kind, int index) override;
     void Refresh() override;
-    void ShowStep() override;
+    void ShowStep(double limit) override;
     void LetEventsRun() override;
 
 Q_SIGNALS:
@@ -73,7 +73,8 @@ private:
     bool placing_ = false;  // the plate is on its way to another place: nothing is painted until it is there
     QPointF pointer_;       // on the screen
     QPixmap background_;    // of the whole view in the screen's pixels; null while it must be painted anew
-    QElapsedTimer sinceStep_;
+    QElapsedTimer clock_;
+    double stepEnd_ = 0;  // of the last step shown, milliseconds of clock_
     QElapsedTimer sinceEvents_;
     QTimer tellDue_;
 };

@@ -188,6 +188,19 @@ void frmMain::SelectGame() {
     dialog.exec();
 }
 
+bool frmMain::event(QEvent* event) {
+    // Each key comes by here before anything takes it. One that is held down, as the one that started the
+    // deal may be, and one that only goes with others do not count.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        const bool modifier = (key.key() >= Qt::Key_Shift && key.key() <= Qt::Key_ScrollLock) ||
+                              key.key() == Qt::Key_AltGr || key.key() == Qt::Key_Super_L ||
+                              key.key() == Qt::Key_Super_R;
+        if (!key.isAutoRepeat() && !modifier) mGen::HurryDeal();
+    }
+    return QMainWindow::event(event);
+}
+
 void frmMain::closeEvent(QCloseEvent* event) {
     if (gData && mGen::Dealing()) {
         closeWanted_ = true;  // the deal that this event came through must end first

@@ -38,6 +38,7 @@ public:
     void SelectGame();
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:

@@ -95,6 +95,36 @@ TEST_F(Life, AGameLeavesNothingToTheNext) {
     }
 }
 
+TEST_F(Life, AHurriedDealIsTheSameDeal) {
+    gData->Set(Setting::Autoplay, 0);
+    MemoryStage& stage = engine_.Layer.Stage;
+    for (const char* game : {"Klondike", "Canfield", "Mobile Gallery"}) {
+        SCOPED_TRACE(game);
+        const auto stepsOfDeal = [&] {
+            const long before = stage.Steps;
+            mGen::StartGame(game, 8.0);
+            return stage.Steps - before;
+        };
+        const long all = stepsOfDeal();
+        const std::vector<CardPlace> deal = mChecks::Places();
+        const cArray table = *gArray;
+        int events = 0;
+        long shown = 0;
+        stage.OnEvents = [&] {
+            if (++events != 60) return;
+            shown = stage.Steps;
+            mGen::HurryDeal();
+        };
+        (void)stepsOfDeal();
+        stage.OnEvents = nullptr;
+        EXPECT_EQ(stage.Steps, shown);
+        EXPECT_EQ(Difference(deal), "");
+        EXPECT_TRUE(*gArray == table) << "with the draws to come";
+        mGen::HurryDeal();  // of no deal
+        EXPECT_EQ(stepsOfDeal(), all);
+    }
+}
+
 // The deal lets window events run: whatever comes then must not touch it.
 TEST_F(Life, CommandsDuringADealAreIgnored) {
     for (const char* game : {"Klondike", "Spider", "Freecell", "Mobile Gallery"}) {

@@ -84,6 +84,48 @@ TEST_F(TransactionLog, SpeedAndSound) {
 }
 
 // A game that wanders on for long loses nothing of its log; the shown count stops at 16 bits.
+// All steps are shown, each for one refresh of the screen where three seconds are enough for that.
+TEST_F(TransactionLog, ACommandTakesThreeSecondsAtMost) {
+    constexpr double Refresh = 1000.0 / 60;
+    MemoryStage& stage = engine_.Layer.Stage;
+    const auto expect = [&](int steps, const std::string& what) {
+        EXPECT_EQ(stage.Steps, steps) << what;
+        EXPECT_NEAR(stage.Waited, std::min(3000.0, steps * Refresh), 1e-6) << what;
+        stage.Steps = 0;
+        stage.Waited = 0;
+    };
+    mPosition::Begin({});
+    mPosition::Lay(Home, 0, "2C-6C");
+    for (int i = 0; i < 30; ++i) Move("6C", Home, 1 + i % 3);
+    gTrans->StartMulti();
+    for (const char* card : {"5C", "4C", "3C"}) Move(card, Home, 3);
+    gTrans->EndMulti();
+    for (int speed = 0; speed <= 50; ++speed) {
+        const std::string at = " at speed " + std::to_string(speed);
+        mMain::UndoAll(speed);
+        expect(31 * speed + 2, "undo all" + at);
+        mMain::RedoAll(speed);
+        expect(31 * speed + 2, "redo all" + at);
+    }
+    mMain::Undo(50);
+    expect(52, "the next command has its own time");
+
+    game_.Ext.Cards = 104;
+    game_.Ext.cRedeals = -1;
+    game_.Stock.StockNum = StockNum::Redeal;
+    for (const auto type : {RedealType::WasteToStock, RedealType::GatherTableau}) {
+        game_.Ext.cRedealType = type;
+        mPosition::Begin(game_);
+        mPosition::LayRestOnStock();
+        const int pile = type == RedealType::WasteToStock ? Waste : Home;
+        while (gArray->GetTop(Stock) >= 0) {
+            gArray->MoveCard(gArray->GetTopPicID(Stock), pile, 0, gArray->GetTop(pile) + 1, tMod::Deal, 0);
+        }
+        mMain::StockClick();
+        expect(208, "a redeal of 104 cards");
+    }
+}
+
 TEST_F(TransactionLog, FortyThousandRecords) {
     mPosition::Begin({});
     mScript::Lay("H0 2C 3C");

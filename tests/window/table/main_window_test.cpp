@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
@@ -59,6 +61,27 @@ TEST_F(MainWindow, ADragThatEndsOutsideTheWindowReturns) {
     QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, outside);
     EXPECT_EQ(PlaceOf(FittingCard), start);
     EXPECT_FALSE(gDrag.gPicked);
+}
+
+TEST_F(MainWindow, AKeyOrAPressShowsTheRestOfADealAtOnce) {
+    const std::function<void()> hurries[] = {
+        [this] { QTest::keyClick(window_.get(), Qt::Key_A); },
+        [this] { QTest::keyClick(window_->Table(), Qt::Key_F2); },
+        [this] { QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5)); },
+    };
+    for (const auto& hurry : hurries) {
+        bool dealing = false;
+        QTimer::singleShot(0, window_.get(), [&] {
+            dealing = mGen::Dealing();
+            QTest::keyClick(window_.get(), Qt::Key_Shift);  // goes with another key
+            EXPECT_FALSE(PicBack.Hurried());
+            hurry();
+            EXPECT_TRUE(PicBack.Hurried());
+        });
+        mGen::StartGame("Klondike", 1.0);
+        EXPECT_TRUE(dealing);
+        EXPECT_FALSE(PicBack.Hurried());
+    }
 }
 
 TEST_F(MainWindow, CommandsAreEnabledAsTheGameStands) {
