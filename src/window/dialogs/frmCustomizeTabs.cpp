@@ -190,9 +190,16 @@ QWidget* frmCustomize::BuildAnimation() {
         connect(slider, &QSlider::valueChanged, value, qOverload<int>(&QLabel::setNum));
         slider->setValue(choice_.Speed[i]);
         value->setNum(slider->value());
-        auto* inside = new QHBoxLayout(frame);
-        inside->addWidget(slider, 1);
-        inside->addWidget(value);
+        // The value counts steps, so that the speed falls as it rises.
+        auto* fast = new QLabel(tr("fast"));
+        auto* slow = new QLabel(tr("slow"));
+        slider->setAccessibleDescription(tr("from 0, fast, to 50, slow"));
+        auto* inside = new QGridLayout(frame);
+        inside->addWidget(slider, 0, 0, 1, 2);
+        inside->addWidget(value, 0, 2);
+        inside->addWidget(fast, 1, 0, Qt::AlignLeft);
+        inside->addWidget(slow, 1, 1, Qt::AlignRight);
+        inside->setColumnStretch(1, 1);
         speeds->addWidget(frame);
         sliders_[i] = slider;
     }
