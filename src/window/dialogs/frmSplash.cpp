@@ -13,7 +13,8 @@
 
 frmSplash::frmSplash() {
     setObjectName(QStringLiteral("frmSplash"));
-    setWindowFlags(Qt::SplashScreen);
+    // Not as a splash screen to the window system, which would give it no key to end with.
+    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QString::fromStdString(gData->ProdName()));
     setFixedSize(Art::SplashSize);
