@@ -5,6 +5,7 @@
 #include <functional>
 
 #include <QLabel>
+#include <QMenuBar>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -161,6 +162,28 @@ TEST_F(MainWindow, HelpIsForTheRunningGameAndTheToolbarComesAndGoes) {
     for (const bool shown : {false, true}) {
         Entry("mGame9")->trigger();
         EXPECT_EQ(toolbar->isVisible(), shown);
+    }
+}
+
+TEST_F(MainWindow, MenusAndStatusAreSeenInEveryWidth) {
+    mGen::StartGame("Klondike", 1.0);
+    auto* bar = window_->menuBar();
+    const auto* strip = window_->findChild<QWidget*>(QStringLiteral("status"));
+    const int line = bar->height();
+    for (const int width : {673, 400, 250, 150, 250, 673}) {
+        SCOPED_TRACE(width);
+        window_->setMinimumWidth(1);
+        window_->resize(width, 400);
+        const QRect place(strip->mapTo(bar, QPoint(0, 0)), strip->size());
+        EXPECT_TRUE(bar->rect().contains(place));
+        EXPECT_EQ(bar->height() > line, width < 673);
+        EXPECT_FALSE(bar->actionGeometry(bar->actions().constFirst()).isEmpty());
+        EXPECT_FALSE(bar->actionGeometry(bar->actions().constFirst()).intersects(place));
+        for (const char* name : {"mScore", "mTime", "mMoves"}) {
+            const auto* label = strip->findChild<QLabel*>(QLatin1String(name));
+            EXPECT_TRUE(strip->rect().contains(label->geometry())) << name;
+            EXPECT_GE(label->width(), label->sizeHint().width()) << name;
+        }
     }
 }
 
