@@ -95,7 +95,8 @@ def play(screen, program, lab, moves):
     with Game(screen, program) as game, closing(Driver(lab)) as driver:
         game.choose("Klondike")
         screen.settle()
-        game.keys("alt+g", "Up", "Return")  # the last entry of the menu hides the toolbar
+        # Actual size; and the last entry of the menu hides the toolbar.
+        game.keys("ctrl+0", "alt+g", "Up", "Return")
         title = deal(game, number)
         expect("the abandoned game", [row[-1] for row in records(data)], ["0"])
 

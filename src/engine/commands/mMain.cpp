@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "engine/commands/mGen.h"
 #include "engine/commands/mSpoken.h"
@@ -129,11 +130,9 @@ void PutBack() {
 }
 
 void CancelDrag() {
-    if (Running() && gDrag.gPicked) {
-        const CardRecord& card = PicBack.PicCards(draggedCard);
-        mPlay::ReturnCards(draggedCard, card.Pile, card.Pos);
-    }
-    gDrag.gPicked = false;
+    if (!std::exchange(gDrag.gPicked, false) || !Running()) return;
+    const CardRecord& card = PicBack.PicCards(draggedCard);
+    mPlay::ReturnCards(draggedCard, card.Pile, card.Pos);
 }
 
 void StockClick() {

@@ -5,6 +5,8 @@
 #include <array>
 #include <vector>
 
+#include "engine/rules/mFunc.h"
+#include "engine/state/cData.h"
 #include "engine/state/cGames.h"
 
 namespace mRoom {
@@ -13,6 +15,10 @@ namespace {
 
 constexpr int Ranks = 13;
 constexpr int Growth = 6;  // cards that a tableau pile usually gains, at most
+
+// A pile that has outgrown its room gets more at once than one card needs, so that the size of the table
+// changes seldom.
+constexpr int SpareRoom = 1000;  // twips
 
 Area CardAt(const Point& place) { return {place.X, place.Y, place.X + CardWidth, place.Y + CardHeight}; }
 
@@ -107,6 +113,15 @@ Area OfGame(const cPlate& dealt) {
         }
     }
     return area;
+}
+
+bool Follow(Area& room, int PicID) {
+    const CardRecord& card = PicBack.PicCards(PicID);
+    if (!card.Visible || !gData->Figures.GameRunning || gDrag.gPicked) return false;
+    const Area grown = room.Around(CardAt({card.Left, card.Top}), SpareRoom);
+    if (grown == room) return false;
+    room = grown;
+    return true;
 }
 
 }  // namespace mRoom

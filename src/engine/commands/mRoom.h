@@ -21,7 +21,12 @@ struct Area {
 [[nodiscard]] Area Taken(const cPlate& plate);
 
 /// What the game whose numbers are in gGames needs, `dealt` being its opening deal: all its piles, and
-/// where tableau and foundations may come to lie. A pile can outgrow it; that is rare.
+/// where tableau and foundations may come to lie. A pile can outgrow it; that is rare, and Follow makes room
+/// for it.
 [[nodiscard]] Area OfGame(const cPlate& dealt);
+
+/// To be called when a card of the running game has moved: lets `room` grow where the card lies beyond it,
+/// and true then. A card in the hand may be anywhere, and those of a deal have their room already.
+[[nodiscard]] bool Follow(Area& room, int PicID);
 
 }  // namespace mRoom

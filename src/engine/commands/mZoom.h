@@ -20,8 +20,15 @@ inline constexpr int Largest = 300;
 /// Negative where the view is narrower. Whole pixels of a screen with `ratio` of them to a pixel.
 [[nodiscard]] double PlateLeft(double width, double zoom, double ratio);
 
-/// The largest zoom at which `area` of the plate, and a margin around it, is seen in a view of that many
-/// pixels. Cards are a whole number of the screen's pixels wide then.
+/// How far the plate may be moved, in twips, from its place in a view of that many pixels: as far as
+/// `area` and a margin around it go beyond the view. Nowhere in a direction in which all of it is seen.
+struct Pan {
+    double Left = 0, Top = 0, Right = 0, Bottom = 0;  ///< Left and Top zero or negative
+};
+[[nodiscard]] Pan PanOf(const mRoom::Area& area, double width, double height, double zoom);
+
+/// The largest zoom, up to the largest of the sizes, at which `area` of the plate, and a margin around it, is
+/// seen in a view of that many pixels. Cards are a whole number of the screen's pixels wide then.
 [[nodiscard]] double Fit(const mRoom::Area& area, double width, double height, double ratio);
 
 }  // namespace mZoom

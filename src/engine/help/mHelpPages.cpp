@@ -75,10 +75,12 @@ const std::vector<Page>& All() {
           "game "
           "say. Where the game allows a redeal, click on the mark under the empty stock.",
           "While cards are dealt, a press on the table or a key shows the rest of the deal at once.",
-          "The right button on the empty table opens a menu for its size: Zoom In, Zoom Out, Actual Size, "
-          "Fit "
-          "Game to Window and Full Screen. The wheel zooms while Ctrl is held down, even with a card in the "
-          "hand.",
+          "The game is shown as large as the window allows, with room for its piles to grow; a pile that "
+          "grows beyond that makes the table a little smaller. The right button on the empty table opens a "
+          "menu for its size: Zoom In, Zoom Out, Actual Size, Fit Game to Window and Full Screen. The wheel "
+          "zooms while Ctrl is held down, even with a card in the hand.",
+          "A table that has become larger than the window is moved by the wheel, with Shift sideways, by a "
+          "drag of its empty part, and by a card that is held at the window's edge.",
           "While Autoplay is on, cards that fit on a foundation go there by themselves after every move. "
           "Switch it "
           "off with F7 to keep a card on the tableau.",
@@ -107,7 +109,8 @@ const std::vector<Page>& All() {
           "switches Autoplay on and off. Ctrl+H shows the history of moves.",
           "Shift+F1 replays the game forward by itself, Shift+F2 backward.",
           "Ctrl++ and Ctrl+- zoom in and out, and Ctrl+0 shows the table in its actual size. Ctrl+9 fits the "
-          "game to the window, whatever size the window takes. F11 fills the screen; F11 or Escape leaves "
+          "game to the window again, whatever size the window takes. F11 fills the screen; F11 or Escape "
+          "leaves "
           "it. "
           "The menu key opens the menu of the table's size.",
           "Ctrl+A adds the deal to the favorites, Ctrl+F organizes them, and Ctrl+P plays one of them.",

@@ -66,8 +66,9 @@ inline constexpr NumberSetting WindowTop       {"Top",     NoPlace, -32768, 3276
 inline constexpr NumberSetting WindowWidth     {"Width",         0,    100, 32767, "Window"};
 inline constexpr NumberSetting WindowHeight    {"Height",        0,    100, 32767, "Window"};
 inline constexpr NumberSetting WindowMaximised {"Maximised",     0,      0,     1, "Window"};
+inline constexpr NumberSetting WindowFullScreen{"FullScreen",    0,      0,     1, "Window"};
 inline constexpr NumberSetting Zoom            {"Zoom",        100,     50,   300, "Window"};
-inline constexpr NumberSetting FitGame         {"FitGame",       0,      0,     1, "Window"};
+inline constexpr NumberSetting FitGame         {"FitGame",       1,      0,     1, "Window"};
 }  // namespace Setting
 // clang-format on
 

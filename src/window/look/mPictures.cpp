@@ -33,7 +33,7 @@ struct Rendered {
 std::array<Rendered, 3> sizes;  // the last used first
 
 QPixmap Cached(const QString& name, double scale) {
-    const QSize card = (QSizeF(CardWidth, CardHeight) / TwipsPerPixel * scale).toSize();
+    const QSize card = CardSize(scale);
     auto found = std::find_if(sizes.begin(), sizes.end(),
                               [&card](const Rendered& rendered) { return rendered.Card == card; });
     if (found == sizes.end()) {
@@ -154,7 +154,9 @@ QPixmap Inverted(const QPixmap& picture) {
     return QPixmap::fromImage(image);
 }
 
-void DrawAtWholePixels(QPainter& painter, const QPixmap& picture) {
+QSize CardSize(double scale) { return (QSizeF(CardWidth, CardHeight) / TwipsPerPixel * scale).toSize(); }
+
+void DrawAtWholePixels(QPainter& painter, const QPixmap& picture, const QSize& size) {
     // A place half-way between two pixels must come to the same one in every repaint, though the last digits
     // of the transform depend on what is painted: otherwise a repaint beside a card cuts off its edge.
     constexpr double Noise = 1e-6;
@@ -162,7 +164,12 @@ void DrawAtWholePixels(QPainter& painter, const QPixmap& picture) {
     const QPointF origin = painter.deviceTransform().map(QPointF(0, 0));
     painter.save();
     ToDevicePixels(painter);
-    painter.drawPixmap(QPointF(whole(origin.x()), whole(origin.y())), picture);
+    const QPointF corner(whole(origin.x()), whole(origin.y()));
+    if (size.isEmpty() || size == picture.size()) {
+        painter.drawPixmap(corner, picture);
+    } else {
+        painter.drawPixmap(QRectF(corner, size), picture, picture.rect());
+    }
     painter.restore();
 }
 

@@ -36,8 +36,12 @@ inline constexpr QRectF CardBounds{-60, -60, CardWidth + 120, CardHeight + 120};
 void Forget();
 [[nodiscard]] QPixmap Inverted(const QPixmap& picture);
 
-/// Draws a card-sized picture at the painter's origin, moved to whole device pixels so that it stays sharp.
-void DrawAtWholePixels(QPainter& painter, const QPixmap& picture);
+/// How large a picture for that scale is, in device pixels.
+[[nodiscard]] QSize CardSize(double scale);
+
+/// Draws a picture at the painter's origin, moved to whole device pixels so that it stays sharp; stretched to
+/// `size` where it has another one.
+void DrawAtWholePixels(QPainter& painter, const QPixmap& picture, const QSize& size = {});
 
 /// The colour of a number: red + 256 × green + 65536 × blue.
 [[nodiscard]] QColor ColorOf(int number);

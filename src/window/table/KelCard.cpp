@@ -8,8 +8,9 @@
 #include "engine/commands/mMain.h"
 #include "engine/state/cPlate.h"
 #include "window/look/mPictures.h"
+#include "window/table/TableView.h"
 
-KelCard::KelCard(int PicID) : picID_(PicID) {
+KelCard::KelCard(int PicID, const TableView* table) : table_(table), picID_(PicID) {
     setObjectName(QStringLiteral("PicCards%1").arg(PicID));
     setAcceptedMouseButtons(Qt::AllButtons);
     setVisible(false);
@@ -26,10 +27,11 @@ QPainterPath KelCard::shape() const {
 void KelCard::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
     const CardRecord& card = PicBack.PicCards(picID_);
     const double scale = mPictures::ScaleOf(*painter);
+    const double ready = table_ ? table_->PictureScale(scale) : scale;
     QPixmap picture =
-        card.FaceMode == 1 ? mPictures::GetPic(card.DeckPic, scale) : mPictures::MainPic(card.MainPic, scale);
+        card.FaceMode == 1 ? mPictures::GetPic(card.DeckPic, ready) : mPictures::MainPic(card.MainPic, ready);
     if (card.Selected && card.FaceMode != 1) picture = mPictures::Inverted(picture);
-    mPictures::DrawAtWholePixels(*painter, picture);
+    mPictures::DrawAtWholePixels(*painter, picture, mPictures::CardSize(scale));
 }
 
 void KelCard::mousePressEvent(QGraphicsSceneMouseEvent* event) {

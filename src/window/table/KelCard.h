@@ -3,11 +3,14 @@
 
 #include <QGraphicsObject>
 
+class TableView;
+
 class KelCard : public QGraphicsObject {
     Q_OBJECT
 public:
-    /// The view of PicCards(PicID), named "PicCards" and its number.
-    explicit KelCard(int PicID);
+    /// The view of PicCards(PicID), named "PicCards" and its number, on a table that may lend it pictures of
+    /// another size than its own.
+    explicit KelCard(int PicID, const TableView* table = nullptr);
 
     [[nodiscard]] int PicID() const { return picID_; }
     /// The pointer has come to that point of the plate, twips: a card in the hand goes with it.
@@ -24,6 +27,7 @@ protected:
     bool sceneEvent(QEvent* event) override;
 
 private:
+    const TableView* table_;  // nullptr where it is drawn for itself
     int picID_;
     Qt::MouseButton button_ = Qt::NoButton;  ///< the one that lifted the card
 };

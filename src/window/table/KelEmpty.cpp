@@ -7,6 +7,7 @@
 #include "engine/commands/mMain.h"
 #include "engine/state/cPlate.h"
 #include "window/look/mPictures.h"
+#include "window/table/TableView.h"
 
 namespace {
 
@@ -28,7 +29,8 @@ QString NameOf(MarkKind kind, int index) {
 
 }  // namespace
 
-KelEmpty::KelEmpty(MarkKind kind, int index) : kind_(kind), index_(index) {
+KelEmpty::KelEmpty(MarkKind kind, int index, const TableView* table)
+    : table_(table), kind_(kind), index_(index) {
     setObjectName(NameOf(kind, index));
     setAcceptedMouseButtons(kind == MarkKind::Stock ? Qt::AllButtons : Qt::NoButton);
     setZValue(-1);  // below all cards
@@ -45,7 +47,9 @@ QPainterPath KelEmpty::shape() const {
 
 void KelEmpty::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
     const int picture = PicBack.Mark(kind_, index_).Picture;
-    mPictures::DrawAtWholePixels(*painter, mPictures::RightPic(picture, mPictures::ScaleOf(*painter)));
+    const double scale = mPictures::ScaleOf(*painter);
+    const double ready = table_ ? table_->PictureScale(scale) : scale;
+    mPictures::DrawAtWholePixels(*painter, mPictures::RightPic(picture, ready), mPictures::CardSize(scale));
 }
 
 void KelEmpty::mousePressEvent(QGraphicsSceneMouseEvent* event) { event->accept(); }

@@ -5,11 +5,13 @@
 
 #include "engine/outside/windowlayer.h"
 
+class TableView;
+
 class KelEmpty : public QGraphicsObject {
     Q_OBJECT
 public:
     /// Named by its kind and number: "PicHome3", "PicStock".
-    KelEmpty(MarkKind kind, int index);
+    KelEmpty(MarkKind kind, int index, const TableView* table = nullptr);
 
     /// As a card's: the mark, and what its picture may take when it is moved to whole pixels.
     [[nodiscard]] QRectF boundingRect() const override;
@@ -22,6 +24,7 @@ protected:
     void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
 
 private:
+    const TableView* table_;  // nullptr where it is drawn for itself
     MarkKind kind_;
     int index_;
 };

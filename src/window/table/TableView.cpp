@@ -35,16 +35,18 @@ TableView::TableView(QWidget* parent) : QGraphicsView(parent) {
     setScene(&scene_);
     PlacePlate();
     for (int PicID = 0; PicID < MaxCards; ++PicID) {
-        cards_[static_cast<std::size_t>(PicID)] = new KelCard(PicID);
+        cards_[static_cast<std::size_t>(PicID)] = new KelCard(PicID, this);
         scene_.addItem(cards_[static_cast<std::size_t>(PicID)]);
     }
     cPlate::ForEachMark([this](MarkKind kind, int index) {
-        auto* mark = new KelEmpty(kind, index);
+        auto* mark = new KelEmpty(kind, index, this);
         marks_[static_cast<std::size_t>(kind)].push_back(mark);
         scene_.addItem(mark);
     });
     QAccessible::installFactory(TableAccess::Make);
     clock_.start();
+    settle_.setSingleShot(true);
+    connect(&settle_, &QTimer::timeout, this, &TableView::Settle);
     tellDue_.setSingleShot(true);
     connect(&tellDue_, &QTimer::timeout, this, &TableView::TellChanges);
 }
@@ -54,9 +56,75 @@ void TableView::PaintBackground() {
     viewport()->update();
 }
 
-void TableView::SetZoom(double zoom) {
+void TableView::SetZoom(double zoom, bool passing) {
     if (zoom == zoom_) return;
+    constexpr int Rest = 100;  // milliseconds
+    if (passing) {
+        if (passingFrom_ == 0) passingFrom_ = zoom_ * devicePixelRatioF();
+        settle_.start(Rest);
+    } else {
+        passingFrom_ = 0;
+        settle_.stop();
+    }
     zoom_ = zoom;
+    PlacePlate();
+}
+
+void TableView::Settle() {
+    // Few pictures at a time: a window that is drawn on meanwhile never waits for them.
+    constexpr int Slice = 5;  // milliseconds
+    QElapsedTimer spent;
+    spent.start();
+    const double scale = zoom_ * devicePixelRatioF();
+    for (int PicID = 0; PicID < MaxCards; ++PicID) {
+        const CardRecord& card = PicBack.PicCards(PicID);
+        if (!card.Visible) continue;
+        (void)(card.FaceMode == 1 ? mPictures::GetPic(card.DeckPic, scale)
+                                  : mPictures::MainPic(card.MainPic, scale));
+        if (spent.elapsed() < Slice) continue;
+        settle_.start(0);
+        return;
+    }
+    passingFrom_ = 0;
+    dirty_ = {};
+    viewport()->update();
+}
+
+void TableView::SetRoom(const mRoom::Area& room) {
+    room_ = room;
+    PlacePlate();
+}
+
+mZoom::Pan TableView::Limits() const {
+    const QSize size = maximumViewportSize();
+    return mZoom::PanOf(room_, size.width(), size.height(), zoom_);
+}
+
+bool TableView::CanBeMoved() const {
+    constexpr double Noticeable = 1.0;  // twips
+    const mZoom::Pan limits = Limits();
+    return limits.Right - limits.Left > Noticeable || limits.Bottom - limits.Top > Noticeable;
+}
+
+bool TableView::MoveBy(const QPointF& pixels) {
+    const QPointF before = pan_;
+    pan_ -= pixels * mZoom::TwipsPerPixel / zoom_;
+    PlacePlate();
+    return pan_ != before;
+}
+
+void TableView::Reveal(const QRectF& part) {
+    const QRectF seen = sceneRect();
+    const auto beyond = [](double low, double high, double from, double to) {
+        return low < from ? low - from : std::max(0.0, high - to);
+    };
+    pan_ += QPointF(beyond(part.left(), part.right(), seen.left(), seen.right()),
+                    beyond(part.top(), part.bottom(), seen.top(), seen.bottom()));
+    PlacePlate();
+}
+
+void TableView::MoveBack() {
+    pan_ = {};
     PlacePlate();
 }
 
@@ -64,9 +132,14 @@ void TableView::PlacePlate() {
     // The plate keeps its size and is centred; where the window is narrower it is cut on both sides.
     const QSize size = maximumViewportSize();
     const double scale = zoom_ / mZoom::TwipsPerPixel;
-    const double left = mZoom::PlateLeft(size.width(), zoom_, devicePixelRatioF());
-    const QTransform place(scale, 0, 0, scale, left, 0);
-    const QRectF seen(-left / scale, 0, size.width() / scale, size.height() / scale);
+    const mZoom::Pan limits = Limits();
+    pan_ = {std::clamp(pan_.x(), limits.Left, limits.Right), std::clamp(pan_.y(), limits.Top, limits.Bottom)};
+    const double ratio = devicePixelRatioF();
+    const auto pixels = [&](double twips) { return std::round(twips * scale * ratio) / ratio; };
+    const double left = mZoom::PlateLeft(size.width(), zoom_, ratio) - pixels(pan_.x());
+    const double top = -pixels(pan_.y());
+    const QTransform place(scale, 0, 0, scale, left, top);
+    const QRectF seen(-left / scale, -top / scale, size.width() / scale, size.height() / scale);
     if (place == transform() && seen == sceneRect()) return;
     placing_ = true;
     setSceneRect(seen);
@@ -85,7 +158,10 @@ void TableView::FollowPointer() {
 
 bool TableView::event(QEvent* event) {
     // The window came to a screen with another number of pixels.
-    if (event->type() == QEvent::ScreenChangeInternal) PlacePlate();
+    if (event->type() == QEvent::ScreenChangeInternal) {
+        Q_EMIT Resized();
+        PlacePlate();
+    }
     return QGraphicsView::event(event);
 }
 
@@ -161,6 +237,7 @@ void TableView::CardMoved(int PicID) {
     MarkDirty(item);
     item.setPos(card.Left, card.Top);
     MarkDirty(item);
+    Q_EMIT Moved(PicID);
 }
 
 void TableView::CardRaised(int PicID) {

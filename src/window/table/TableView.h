@@ -10,6 +10,7 @@
 #include <QPixmap>
 #include <QTimer>
 
+#include "engine/commands/mZoom.h"
 #include "engine/outside/windowlayer.h"
 #include "engine/state/cPlate.h"
 
@@ -26,8 +27,25 @@ public:
 
     /// How large the table is shown: 1 as designed, 15 twips to a pixel. The plate stays centred at the
     /// view's upper edge. A card in the hand stays under the pointer.
-    void SetZoom(double zoom);
+    /// `passing`: other sizes will follow soon, as while a window is drawn larger. Until the size has rested
+    /// for a moment the pictures of the one before are stretched, which takes no time.
+    void SetZoom(double zoom, bool passing = false);
     [[nodiscard]] double Zoom() const { return zoom_; }
+    /// The scale of the pictures to be drawn with at `scale`.
+    [[nodiscard]] double PictureScale(double scale) const { return passingFrom_ > 0 ? passingFrom_ : scale; }
+
+    /// What of the plate must be within reach: where it goes beyond the view, the plate can be moved.
+    void SetRoom(const mRoom::Area& room);
+    [[nodiscard]] bool CanBeMoved() const;
+    /// Moves the plate by that many pixels, or as far as the room goes; false where it stays. A card in the
+    /// hand stays under the pointer.
+    bool MoveBy(const QPointF& pixels);
+    /// Moves the plate as little as shows that part of it, twips.
+    void Reveal(const QRectF& part);
+    /// Puts the plate back to its place.
+    void MoveBack();
+    /// Where the pointer was last seen, on the screen.
+    [[nodiscard]] QPointF Pointer() const { return pointer_; }
 
     // CardStage
     void CardMoved(int PicID) override;
@@ -42,6 +60,8 @@ public:
 Q_SIGNALS:
     /// The view has another size, and the plate does not yet lie by it.
     void Resized();
+    /// A card has come to another place.
+    void Moved(int PicID);
 
 protected:
     bool event(QEvent* event) override;
@@ -49,7 +69,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void drawBackground(QPainter* painter, const QRectF& rect) override;
-    /// The plate never scrolls: a turn of the wheel must not move it.
+    /// Whether the plate moves is not for the view's own scrolling to say.
     void wheelEvent(QWheelEvent* event) override;
 
 private:
@@ -60,8 +80,12 @@ private:
     /// Screen readers are to hear of the change once events run again, when the move is complete.
     void NoteChange();
     void TellChanges();
-    /// Puts the plate where the view's size and the zoom want it.
+    /// Puts the plate where the view's size, the zoom and the player want it.
     void PlacePlate();
+    /// How far the player may move it at this size.
+    [[nodiscard]] mZoom::Pan Limits() const;
+    /// Renders what the table needs at its size, bit by bit, and then shows it.
+    void Settle();
     /// The card in the hand goes to the pointer's last place, which may lie between two pixels of the view.
     void FollowPointer();
 
@@ -70,6 +94,10 @@ private:
     std::array<std::vector<KelEmpty*>, 5> marks_;  // by MarkKind, owned by the scene
     QRegion dirty_;                                // viewport pixels that await a repaint
     double zoom_ = 1.0;
+    mRoom::Area room_;
+    QPointF pan_;             // twips that the player has moved the view over the plate
+    double passingFrom_ = 0;  // scale of the pictures that are stretched meanwhile; 0: none are
+    QTimer settle_;
     bool placing_ = false;  // the plate is on its way to another place: nothing is painted until it is there
     QPointF pointer_;       // on the screen
     QPixmap background_;    // of the whole view in the screen's pixels; null while it must be painted anew

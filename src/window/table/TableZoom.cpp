@@ -8,8 +8,6 @@
 #include <QMenu>
 #include <QWheelEvent>
 
-#include "engine/commands/mGen.h"
-#include "engine/rules/mFunc.h"
 #include "engine/state/cData.h"
 #include "window/look/mTablePicture.h"
 #include "window/table/TableView.h"
@@ -17,10 +15,6 @@
 namespace {
 
 constexpr double Whole = 100.0;  // percent
-
-// A pile that has outgrown its room gets more at once than one card needs, so that the size of the table
-// changes seldom.
-constexpr int SpareRoom = 1000;  // twips
 
 }  // namespace
 
@@ -30,7 +24,8 @@ TableZoom::TableZoom(TableView* table, QMainWindow* window)
     table_->installEventFilter(this);
     table_->viewport()->installEventFilter(this);
     window_->installEventFilter(this);
-    connect(table_, &TableView::Resized, this, &TableZoom::Apply);
+    connect(table_, &TableView::Resized, this, [this] { Apply(true); });
+    connect(table_, &TableView::Moved, this, &TableZoom::FollowCard);
     ShowStates();
 }
 
@@ -72,8 +67,7 @@ void TableZoom::Choose(int percent, bool fits) {
     const bool same = percent == percent_ && fits == fits_;
     percent_ = percent;
     fits_ = fits;
-    FollowGame();
-    Apply();
+    Apply(false);
     if (!same) Q_EMIT Changed();
 }
 
@@ -86,36 +80,28 @@ void TableZoom::Step(int steps) {
 }
 
 void TableZoom::NewGame() {
-    room_ = {};
-    measured_ = false;
-    Measure();
-    Apply();
-}
-
-void TableZoom::Measure() {
-    if (measured_ || !fits_ || !gData || mGen::Dealing()) return;
+    // A caption that changes in the middle of a game has another reason.
+    if (!gData || gData->Figures.GameRunning) return;
     const SessionFigures& figures = gData->Figures;
     if (gData->GetGameID(figures.CurGName) == 0) return;
     // Before the first card lies, so that the table does not change its size in the middle of the deal.
     room_ = mRoom::OfGame(mTablePicture::OpeningDeal(figures.CurGName, figures.CurGNo));
-    measured_ = true;
+    if (room_ != dealt_) table_->MoveBack();
+    dealt_ = room_;
+    Apply(false);
 }
 
-void TableZoom::FollowGame() {
-    // A card in the hand may be anywhere.
-    if (!fits_ || !gData || !gData->Figures.GameRunning || mGen::Dealing() || gDrag.gPicked) return;
-    const mRoom::Area before = room_;
-    Measure();
-    room_ = room_.Around(mRoom::Taken(PicBack), SpareRoom);
-    if (room_ != before) Apply();
+void TableZoom::FollowCard(int PicID) {
+    if (mRoom::Follow(room_, PicID)) Apply(true);
 }
 
-void TableZoom::Apply() {
+void TableZoom::Apply(bool passing) {
+    table_->SetRoom(room_);
     if (!fits_) {
-        table_->SetZoom(percent_ / Whole);
+        table_->SetZoom(percent_ / Whole, passing);
     } else if (!room_.Empty()) {
         const QSize view = table_->maximumViewportSize();
-        table_->SetZoom(mZoom::Fit(room_, view.width(), view.height(), table_->devicePixelRatioF()));
+        table_->SetZoom(mZoom::Fit(room_, view.width(), view.height(), table_->devicePixelRatioF()), passing);
     }
     ShowStates();
 }
@@ -164,6 +150,11 @@ bool TableZoom::TurnWheel(const QWheelEvent& event) {
     turned_ -= steps * QWheelEvent::DefaultDeltasPerStep;
     Step(steps);
     return true;
+}
+
+void TableZoom::BeginFullScreen() {
+    wasMaximised_ = window_->isMaximized();
+    window_->setWindowState(Qt::WindowFullScreen);
 }
 
 void TableZoom::FlipFullScreen() {

@@ -24,12 +24,11 @@ public:
     [[nodiscard]] int Percent() const { return percent_; }
     [[nodiscard]] bool Fits() const { return fits_; }
     void Choose(int percent, bool fits);
+    /// The window, which is not yet shown, begins on the full screen.
+    void BeginFullScreen();
 
     /// A game is about to be dealt: its name and number stand in gData, its rules in gGames.
     void NewGame();
-    /// Makes room for piles that have outgrown the view of a fitted game. To be called now and then.
-    void FollowGame();
-
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
@@ -39,10 +38,10 @@ private:
     void BuildMenu();
     /// One of the sizes to choose from, by steps from the one that is seen; positive is larger.
     void Step(int steps);
-    /// Works out the running game's room where the table needs it.
-    void Measure();
-    /// Gives the table its size anew.
-    void Apply();
+    /// Makes room for a pile that has outgrown it.
+    void FollowCard(int PicID);
+    /// Gives the table its room and its size anew. `passing`: they are likely to change again at once.
+    void Apply(bool passing);
     void PopUpInMiddle();
     [[nodiscard]] bool ShowMenu(const QContextMenuEvent& event);
     [[nodiscard]] bool TurnWheel(const QWheelEvent& event);
@@ -55,9 +54,9 @@ private:
     QAction *zoomIn_ = nullptr, *zoomOut_ = nullptr, *fitGame_ = nullptr, *fullScreen_ = nullptr,
             *leaveFullScreen_ = nullptr;
     int percent_ = mZoom::ActualSize;
-    bool fits_ = false;
-    mRoom::Area room_;           // of the running game; empty before the first
+    bool fits_ = true;
+    mRoom::Area dealt_;          // what the running game may usually come to need; empty before the first
+    mRoom::Area room_;           // the same with what it has come to need
     bool wasMaximised_ = false;  // before the full screen
-    bool measured_ = false;      // room_ holds what the game may come to need
     int turned_ = 0;             // of the wheel, beyond the last whole step, in eighths of a degree
 };

@@ -74,6 +74,7 @@ void WindowState::Restore() {
     if (gData->Get(Setting::WindowMaximised) == 1) {
         window_->setWindowState(window_->windowState() | Qt::WindowMaximized);
     }
+    if (gData->Get(Setting::WindowFullScreen) == 1) zoom_->BeginFullScreen();
     zoom_->Choose(gData->Get(Setting::Zoom), gData->Get(Setting::FitGame) == 1);
     pause_.stop();
 }
@@ -84,6 +85,9 @@ void WindowState::Save() {
     const Qt::WindowStates state = window_->windowState();
     std::vector<NumberValue> values = {{Setting::Zoom, zoom_->Percent()},
                                        {Setting::FitGame, zoom_->Fits() ? 1 : 0}};
+    if (!state.testFlag(Qt::WindowMinimized)) {
+        values.push_back({Setting::WindowFullScreen, state.testFlag(Qt::WindowFullScreen) ? 1 : 0});
+    }
     // A window over the full screen does not tell what it goes back to; that was written before.
     if (!(state & (Qt::WindowFullScreen | Qt::WindowMinimized))) {
         values.push_back({Setting::WindowMaximised, state.testFlag(Qt::WindowMaximized) ? 1 : 0});

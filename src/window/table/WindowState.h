@@ -1,5 +1,5 @@
-// What the main window remembers from one run to the next: its place, its size, whether it is maximised,
-// and how large the table is shown.
+// What the main window remembers from one run to the next: its place, its size, whether it is maximised
+// or fills the screen, and how large the table is shown.
 #pragma once
 
 #include <QList>

@@ -23,6 +23,7 @@
 #include "window/table/SpokenText.h"
 #include "window/table/StatusStrip.h"
 #include "window/table/TableKeys.h"
+#include "window/table/TableScroll.h"
 #include "window/table/TableView.h"
 #include "window/table/TableZoom.h"
 #include "window/table/WindowState.h"
@@ -94,6 +95,7 @@ void frmMain::BuildTable() {
     PicBack->setFocus();
     zoom_ = new TableZoom(PicBack, this);
     keys_ = new TableKeys(PicBack);
+    new TableScroll(PicBack);
     state_ = new WindowState(this, zoom_);
     // The caption of a game is set when all is ready to deal it.
     connect(this, &QWidget::windowTitleChanged, zoom_, &TableZoom::NewGame);
@@ -123,7 +125,6 @@ void frmMain::TickMain() {
         return;
     }
     FollowReplay();
-    zoom_->FollowGame();
     keys_->Follow();
     const mMain::CommandStates states = mMain::UpdateMenus();
     if (statesShown_ && states == states_) return;

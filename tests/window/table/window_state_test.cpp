@@ -30,6 +30,8 @@ TEST_F(WindowStates, TheNextRunFindsTheWindowAsItWasLeft) {
     QTest::qWait(700);  // what is at rest is written
     Entry("fullScreen")->trigger();
     Restart();
+    EXPECT_TRUE(window_->isFullScreen());
+    Entry("fullScreen")->trigger();
     EXPECT_TRUE(window_->isMaximized());
     window_->close();
     EXPECT_EQ(memory_.Settings.Values["Window/Width"], "555");  // what it goes back to
@@ -39,12 +41,13 @@ TEST_F(WindowStates, NonsenseInTheSettingsFallsBack) {
     const QSize first = window_->size();
     const QRect screen = window_->screen()->availableGeometry();
     using Values = std::map<std::string, std::string>;
-    const Values wish{{"Left", "90"}, {"Top", "60"}, {"Width", "500"}, {"Height", "400"}, {"Zoom", "175"}};
+    const Values wish{{"Left", "90"},    {"Top", "60"},   {"Width", "500"},
+                      {"Height", "400"}, {"Zoom", "175"}, {"FitGame", "0"}};
     const Values farAway{{"Left", "9000"}, {"Top", "-3000"}, {"Width", "500"}, {"Height", "400"}};
     const Values tooLarge{{"Left", "0"}, {"Top", "0"}, {"Width", "9000"}, {"Height", "7000"}};
     const Values noNumbers{
         {"Left", "x"}, {"Top", ""}, {"Width", "1e3"}, {"Height", "-400"}, {"Zoom", "99999"}};
-    const Values noStates{{"Maximised", "yes"}, {"FitGame", "7"}, {"Zoom", "0"}};
+    const Values noStates{{"Maximised", "yes"}, {"FullScreen", "2"}, {"FitGame", "7"}, {"Zoom", "0"}};
     const std::tuple<const char*, Values, QSize, double> rows[] = {
         {"a wish", wish, {500, 400}, 175},        {"far away", farAway, {500, 400}, 100},
         {"too large", tooLarge, {792, 768}, 100}, {"no numbers", noNumbers, first, 100},
@@ -60,8 +63,8 @@ TEST_F(WindowStates, NonsenseInTheSettingsFallsBack) {
         SetUp();
         EXPECT_EQ(window_->size(), size);
         EXPECT_TRUE(screen.contains(window_->frameGeometry()));
-        EXPECT_FALSE(window_->isMaximized());
-        EXPECT_FALSE(Entry("fitGame")->isChecked());
+        EXPECT_FALSE(window_->isMaximized() || window_->isFullScreen());
+        EXPECT_EQ(Entry("fitGame")->isChecked(), !values.contains("FitGame") || values.at("FitGame") != "0");
         EXPECT_DOUBLE_EQ(window_->Table()->Zoom() * 100, percent);
     }
 }

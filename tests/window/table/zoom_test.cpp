@@ -1,7 +1,6 @@
 // The table's size, fitting a game to the window, and the menu for it.
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <functional>
 #include <set>
 #include <utility>
@@ -64,6 +63,8 @@ TEST_F(Zoom, CommandsAndWheelGoThroughTheSizes) {
     const auto turn = [this](int eighths) { return [this, eighths] { Turn(eighths); }; };
     constexpr double Fitted = -1;
     const std::pair<std::function<void()>, double> steps[] = {
+        {[] {}, Fitted},
+        {trigger("actualSize"), 100},
         {trigger("zoomIn"), 110},
         {trigger("zoomIn"), 125},
         {trigger("zoomOut"), 110},
@@ -124,7 +125,6 @@ TEST_F(Zoom, ACardInTheHandStaysUnderThePointer) {
 }
 
 TEST_F(Zoom, AFittedGameIsSeenInEveryWindow) {
-    Entry("fitGame")->trigger();
     for (const char* game :
          {"Klondike", "Baker's Dozen", "Castle Tower", "Four Seasons", "Super Flower Garden"}) {
         std::set<double> sizes;
@@ -143,13 +143,11 @@ TEST_F(Zoom, AFittedGameIsSeenInEveryWindow) {
 }
 
 TEST_F(Zoom, AFittedGameKeepsPilesThatGrowInSight) {
-    Entry("fitGame")->trigger();
     mGen::StartGame("Klondike", 1.0);
     const double before = Seen();
     while (gArray->GetTop(Stock) >= 0) {
         gArray->MoveCard(gArray->GetTopPicID(Stock), Home, 6, gArray->GetTop(Home, 6) + 1, tMod::Play, 0);
     }
-    QTest::qWait(250);
     EXPECT_EQ(Hidden(), "");
     const double grown = Seen();
     EXPECT_LT(grown, before);
@@ -164,6 +162,86 @@ TEST_F(Zoom, AFittedGameKeepsPilesThatGrowInSight) {
 
     mGen::StartGame("Klondike", 2.0);
     EXPECT_EQ(Seen(), before);
+}
+
+TEST_F(Zoom, PicturesAreSharpAgainWhenTheSizeRests) {
+    mGen::StartGame("Klondike", 1.0);
+    TableView* table = window_->Table();
+    const auto stretched = [table] { return table->PictureScale(table->Zoom()) != table->Zoom(); };
+    window_->resize(window_->size() * 1.5);
+    EXPECT_TRUE(stretched());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !stretched(); }));
+    const QImage settled = table->grab().toImage();
+    const double zoom = table->Zoom();
+    table->SetZoom(1.0);
+    table->SetZoom(zoom);
+    EXPECT_EQ(table->grab().toImage(), settled);
+}
+
+TEST_F(Zoom, ATableLargerThanTheWindowCanBeMoved) {
+    mGen::StartGame("Klondike", 1.0);
+    const auto seen = [this] { return window_->Table()->sceneRect().topLeft(); };
+    const auto turn = [this](Qt::KeyboardModifiers keys) {
+        const QPointF middle = Viewport()->rect().center();
+        QWheelEvent event(middle, Viewport()->mapToGlobal(middle), QPoint(), QPoint(0, -120), Qt::NoButton,
+                          keys, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(Viewport(), &event);
+    };
+    QPoint empty;
+    const auto drag = [&](QPoint by) {
+        empty = {3, 3};
+        while (window_->Table()->itemAt(empty)) empty += QPoint(7, 5);
+        QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, empty);
+        MoveMouse(empty + by, Qt::LeftButton);
+        QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, empty + by);
+    };
+    const QPointF fitted = seen();
+    turn(Qt::NoModifier);
+    drag(QPoint(40, -50));
+    EXPECT_EQ(seen(), fitted) << "where all is seen there is nothing to move";
+
+    Entry("actualSize")->trigger();
+    for (int i = 0; i < 20; ++i) Entry("zoomIn")->trigger();
+    const double pixel = 15.0 / 3;
+    QPointF at = seen();
+    EXPECT_EQ(at.y(), 0);
+    const auto expectMoved = [&](QPointF by, const char* how) {
+        EXPECT_NEAR(seen().x() - at.x(), by.x(), pixel) << how;
+        EXPECT_NEAR(seen().y() - at.y(), by.y(), pixel) << how;
+        at = seen();
+    };
+    turn(Qt::NoModifier);
+    expectMoved({0, 60 * pixel}, "the wheel");
+    turn(Qt::ShiftModifier);
+    expectMoved({60 * pixel, 0}, "the wheel with Shift");
+    drag(QPoint(40, -50));
+    expectMoved({-40 * pixel, 50 * pixel}, "a drag of the empty table");
+    MoveMouse(empty, Qt::NoButton);
+    expectMoved({}, "the drag is over");
+    drag(QPoint(0, 5000));
+    expectMoved({0, -at.y()}, "to the upper edge and no farther");
+    Entry("zoomOut")->trigger();
+    EXPECT_EQ(seen().y(), 0);
+
+    // A card that is held at the lower edge stays under the pointer.
+    const int PicID = gArray->GetTopPicID(Home, 3);
+    window_->Table()->Reveal(QRectF(mFunc::CardLeft(PicID), mFunc::CardTop(PicID), CardWidth, CardHeight));
+    at = seen();
+    const QPoint grip = IndexOf(PicID);
+    const QPointF held =
+        window_->Table()->mapToScene(grip) - QPointF(mFunc::CardLeft(PicID), mFunc::CardTop(PicID));
+    QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, grip);
+    const QPoint edge(grip.x(), Viewport()->height() - 4);
+    MoveMouse(edge, Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return seen().y() > at.y() + 500; }));
+    const QPointF place(mFunc::CardLeft(PicID), mFunc::CardTop(PicID));
+    const QPointF pointer = window_->Table()->viewportTransform().map(place + held);
+    EXPECT_NEAR(pointer.x(), edge.x(), 0.1);
+    EXPECT_NEAR(pointer.y(), edge.y(), 0.1);
+    QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, edge);
+    at = seen();
+    QTest::qWait(60);
+    expectMoved({}, "the card is gone");
 }
 
 TEST_F(Zoom, TheMenuComesWhereNoCardTakesThePress) {
