@@ -7,8 +7,8 @@
 
 namespace Art {
 
-/// The SVG resource of that name, such as "cards/1", "backs/501", "marks/0", "icons/help" or "splash", in
-/// device pixels: `scale` times its size. A null image where there is no such resource.
+/// The SVG resource of that name, such as "cards/1", "cards-four/1", "backs/501", "marks/0", "icons/help" or
+/// "splash", in device pixels: `scale` times its size. A null image where there is no such resource.
 [[nodiscard]] QImage Picture(const QString& name, double scale);
 
 /// The same in that size, whatever the picture's own proportions are.

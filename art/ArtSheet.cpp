@@ -111,6 +111,8 @@ void DrawSheets(const QDir& folder) {
     for (const int scale : {1, 2, 3}) {
         const QString suffix = QStringLiteral("-%1x.png").arg(scale);
         Save(CardSheet(QStringLiteral("cards"), scale, 13, Cloth), folder, QStringLiteral("faces") + suffix);
+        Save(CardSheet(QStringLiteral("cards-four"), scale, 13, Cloth), folder,
+             QStringLiteral("faces-four") + suffix);
         Save(CardSheet(QStringLiteral("backs"), scale, 8, Cloth), folder, QStringLiteral("backs") + suffix);
         Save(CardSheet(QStringLiteral("marks"), scale, 9, Cloth), folder, QStringLiteral("marks") + suffix);
         Save(CardSheet(QStringLiteral("marks"), scale, 9, QColor(232, 224, 208)), folder,
@@ -129,6 +131,8 @@ void DrawSheets(const QDir& folder) {
         for (const int step : {16, 13, 12}) {
             Save(Fans(QStringLiteral("cards"), suits, 4, Ranks, step, false, scale), folder,
                  QStringLiteral("fan-down-%1").arg(step) + suffix);
+            Save(Fans(QStringLiteral("cards-four"), suits, 4, Ranks, step, false, scale), folder,
+                 QStringLiteral("fan-four-down-%1").arg(step) + suffix);
         }
         Save(Fans(QStringLiteral("cards"), suits, 4, Ranks, 12, true, scale), folder,
              QStringLiteral("fan-right-12") + suffix);

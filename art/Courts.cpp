@@ -27,12 +27,19 @@ struct Scheme {
 };
 
 // clang-format off
-constexpr std::array<Scheme, 4> Schemes = {{
+constexpr std::array<Scheme, 4> TwoColors = {{
 //   ground     robe       shade      panel      trim       jewel      Jack       Queen      King
     {"#fdf1e6", "#cf2b3c", "#9e1b2c", "#f3c14b", "#fffdf6", "#2b4a8c", {"#c98a35", "#e3ae4a", "#8a4a26"}},
     {"#e9eff8", "#2a4684", "#1a2f60", "#9fc1e6", "#fffdf6", "#cf2b3c", {"#5a3a24", "#2b2733", "#3a3036"}},
     {"#fdf5de", "#e5862a", "#b9601a", "#c2343f", "#fffdf6", "#2f7f9a", {"#7a3e1e", "#a8481f", "#d8a548"}},
     {"#edf4e8", "#2f7a4f", "#1d5636", "#e9c765", "#fffdf6", "#8c3a78", {"#3a2a22", "#6b3d22", "#c3c6cc"}},
+}};
+// In a deck of four colours nobody is dressed in the colour of another suit.
+constexpr std::array<Scheme, 4> FourColors = {{
+    {"#fdeeea", "#cf2b3c", "#9e1b2c", "#f3c14b", "#fffdf6", "#8f1b2c", {"#c98a35", "#e3ae4a", "#8a4a26"}},
+    {"#eff0f2", "#454853", "#2b2d35", "#c3c7d1", "#fffdf6", "#33363f", {"#5a3a24", "#2b2733", "#3a3036"}},
+    {"#e8effc", "#2b57d8", "#1a3a9c", "#f3c14b", "#fffdf6", "#1a3a9c", {"#7a3e1e", "#a8481f", "#d8a548"}},
+    {"#e9f5ec", "#17884b", "#0f5f34", "#e9c765", "#fffdf6", "#0f5f34", {"#3a2a22", "#6b3d22", "#c3c6cc"}},
 }};
 // clang-format on
 
@@ -306,12 +313,14 @@ constexpr std::string_view Frame =
 
 namespace Pictures {
 
-void DrawCourt(Drawing& drawing, int suit, int rank) {
-    const Scheme& scheme = Schemes.at(static_cast<std::size_t>(suit));
+void DrawCourt(Drawing& drawing, int suit, int rank, Shapes::Colors colors) {
+    const bool two = colors == Shapes::Colors::Two;
+    const Scheme& scheme = (two ? TwoColors : FourColors).at(static_cast<std::size_t>(suit));
+    const std::string_view suitColor = Shapes::SuitColor(suit, colors);
     drawing.Fill(Frame, scheme.Ground);
     const std::string half = fmt::format("half{}-{}", suit, rank);
     drawing.OpenGroup("", half);
-    drawing.Use(SuitName(suit), Placed(17.7, 21.2, 0.092), Shapes::SuitColor(suit));
+    drawing.Use(SuitName(suit), Placed(17.7, 21.2, 0.092), suitColor);
     constexpr int Queen = 11;
     if (rank < Queen) {
         DrawJack(drawing, suit, scheme);
@@ -328,7 +337,7 @@ void DrawCourt(Drawing& drawing, int suit, int rank) {
         const double x = 35.5 + i * 6.6;
         drawing.Fill(Shapes::Star(x, RibbonY(x), 4, 1.2, 0.55, -17), Gold);
     }
-    drawing.SharpLine(Frame, "#3a4a78", 0.7);
+    drawing.SharpLine(Frame, two ? "#3a4a78" : suitColor, 0.7);
 }
 
 }  // namespace Pictures

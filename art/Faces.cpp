@@ -23,8 +23,8 @@ const std::string HalfTurn = "rotate(180 35.5 48)";
 
 // In fans only the top 12 or the left 12 pixels of a card show. So the rank has its suit beside it in the
 // top line, and once more below it in the left column.
-void DrawIndex(Drawing& drawing, int suit, int rank) {
-    const std::string color(Shapes::SuitColor(suit));
+void DrawIndex(Drawing& drawing, int suit, int rank, Shapes::Colors colors) {
+    const std::string color(Shapes::SuitColor(suit, colors));
     const std::string name = fmt::format("index{}-{}", suit, rank);
     const double rankLeft = rank == 9 ? 2.5 : 2.1;
     drawing.OpenGroup("", name);
@@ -71,14 +71,15 @@ Places PipPlaces(int count) {
     }
 }
 
-void DrawPips(Drawing& drawing, int suit, int count) {
+void DrawPips(Drawing& drawing, int suit, int count, Shapes::Colors colors) {
     constexpr double Top = 20.5;
     constexpr double Side = 13.3;
     constexpr double Size = 0.136;
     for (const auto& [column, height] : PipPlaces(count)) {
         const double x = CardWidth / 2 + column * Side;
         const double y = Top + height * (CardHeight - 2 * Top);
-        drawing.Use(SuitName(suit), Placed(x, y, Size, height > 0.51 ? 180 : 0), Shapes::SuitColor(suit));
+        drawing.Use(SuitName(suit), Placed(x, y, Size, height > 0.51 ? 180 : 0),
+                    Shapes::SuitColor(suit, colors));
     }
 }
 
@@ -108,11 +109,12 @@ void DrawAceOfSpades(Drawing& drawing) {
     drawing.CloseGroup();
 }
 
-void DrawAce(Drawing& drawing, int suit) {
+void DrawAce(Drawing& drawing, int suit, Shapes::Colors colors) {
     if (suit == Spades) {
         DrawAceOfSpades(drawing);
     } else {
-        drawing.Use(SuitName(suit), Placed(CardWidth / 2, CardHeight / 2, 0.32), Shapes::SuitColor(suit));
+        drawing.Use(SuitName(suit), Placed(CardWidth / 2, CardHeight / 2, 0.32),
+                    Shapes::SuitColor(suit, colors));
     }
 }
 
@@ -124,24 +126,24 @@ std::string SuitName(int suit) { return fmt::format("suit{}", suit); }
 
 void DefineSuit(Drawing& drawing, int suit) { drawing.Define(SuitName(suit), Shapes::Suit(suit)); }
 
-void DrawFace(Drawing& drawing, int suit, int rank) {
+void DrawFace(Drawing& drawing, int suit, int rank, Shapes::Colors colors) {
     Shapes::DrawCard(drawing);
     if (rank >= Jack) {
-        DrawCourt(drawing, suit, rank);
+        DrawCourt(drawing, suit, rank, colors);
     } else if (rank == 0) {
-        DrawAce(drawing, suit);
+        DrawAce(drawing, suit, colors);
     } else {
-        DrawPips(drawing, suit, rank + 1);
+        DrawPips(drawing, suit, rank + 1, colors);
     }
-    DrawIndex(drawing, suit, rank);
+    DrawIndex(drawing, suit, rank, colors);
     Shapes::DrawCardEdge(drawing);
 }
 
-std::string Face(int number) {
+std::string Face(int number, Shapes::Colors colors) {
     const int suit = (number - 1) / Ranks;
     Drawing drawing(CardWidth, CardHeight);
     DefineSuit(drawing, suit);
-    DrawFace(drawing, suit, (number - 1) % Ranks);
+    DrawFace(drawing, suit, (number - 1) % Ranks, colors);
     return drawing.Text();
 }
 

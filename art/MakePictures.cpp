@@ -1,4 +1,5 @@
-// Writes all pictures as SVG files into a folder: cards/1.svg … backs/501.svg … marks/0.svg … icons/help.svg.
+// Writes all pictures as SVG files into a folder: cards/1.svg … cards-four/1.svg … backs/501.svg …
+// marks/0.svg … icons/help.svg.
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
@@ -8,6 +9,7 @@
 #include <string>
 
 #include "Pictures.h"
+#include "Shapes.h"
 
 namespace {
 
@@ -23,7 +25,9 @@ void WriteAll(const std::filesystem::path& folder) {
     constexpr int LastFace = 52;
     constexpr int LastMark = 17;
     for (int number = 1; number <= LastFace; ++number) {
-        Write(folder / "cards" / (std::to_string(number) + ".svg"), Pictures::Face(number));
+        const std::string file = std::to_string(number) + ".svg";
+        Write(folder / "cards" / file, Pictures::Face(number, Shapes::Colors::Two));
+        Write(folder / "cards-four" / file, Pictures::Face(number, Shapes::Colors::Four));
     }
     for (const int number : Pictures::BackNumbers()) {
         Write(folder / "backs" / (std::to_string(number) + ".svg"), Pictures::Back(number));

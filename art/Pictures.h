@@ -5,19 +5,21 @@
 #include <string>
 #include <string_view>
 
+#include "Shapes.h"
+
 class Drawing;
 
 namespace Pictures {
 
 /// Card face 1 to 52: suit × 13 + rank + 1.
-[[nodiscard]] std::string Face(int number);
+[[nodiscard]] std::string Face(int number, Shapes::Colors colors);
 /// The same in another drawing, where DefineSuit() has told the suit.
-void DrawFace(Drawing& drawing, int suit, int rank);
+void DrawFace(Drawing& drawing, int suit, int rank, Shapes::Colors colors = Shapes::Colors::Two);
 void DefineSuit(Drawing& drawing, int suit);
 /// The name under which DefineSuit() defines it.
 [[nodiscard]] std::string SuitName(int suit);
 /// The half-figures of Jack, Queen and King (rank 10 to 12) in their frame, on a blank card.
-void DrawCourt(Drawing& drawing, int suit, int rank);
+void DrawCourt(Drawing& drawing, int suit, int rank, Shapes::Colors colors);
 
 /// The numbers of all card backs.
 [[nodiscard]] std::span<const int> BackNumbers();

@@ -91,7 +91,11 @@ constexpr std::array<std::span<const Stroke>, 13> Ranks = {Ace,   Two,  Three, F
 
 std::string_view Suit(int suit) { return Suits.at(static_cast<std::size_t>(suit)); }
 
-std::string_view SuitColor(int suit) { return suit % 2 == 0 ? Red : Ink; }
+std::string_view SuitColor(int suit, Colors colors) {
+    constexpr std::array<std::string_view, 4> FourColors = {Red, Ink, Blue, Green};
+    if (colors == Colors::Four) return FourColors.at(static_cast<std::size_t>(suit));
+    return suit % 2 == 0 ? Red : Ink;
+}
 
 void DrawRank(Drawing& drawing, int rank, double left, double top, double scale, std::string_view color) {
     drawing.OpenGroup(Placed(left, top, scale));

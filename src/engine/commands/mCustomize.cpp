@@ -81,6 +81,7 @@ Choice Stored() {
     choice.Fade = gData->Get(Setting::Fade);
     choice.CustomColor = gData->Get(Setting::CustomColor);
     choice.Deck = gData->Get(Setting::DeckIndex);
+    choice.FourColors = gData->Get(Setting::FourColors) == 1;
     return choice;
 }
 
@@ -88,7 +89,8 @@ void Confirm(const Choice& choice) {
     std::vector<NumberValue> values = {{Setting::BGIndex, choice.Background},
                                        {Setting::Fade, choice.Fade},
                                        {Setting::CustomColor, choice.CustomColor},
-                                       {Setting::DeckIndex, choice.Deck}};
+                                       {Setting::DeckIndex, choice.Deck},
+                                       {Setting::FourColors, choice.FourColors ? 1 : 0}};
     for (std::size_t i = 0; i < Speeds.size(); ++i) values.push_back({Speeds[i].Setting, choice.Speed[i]});
     for (std::size_t i = 0; i < Sounds.size(); ++i) {
         values.push_back({Sounds[i].Setting, choice.Sound[i] ? SoundOn : SoundOff});

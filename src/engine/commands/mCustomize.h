@@ -73,11 +73,12 @@ struct Choice {
     int Fade = 0;  ///< 1: a colour fades to black
     int CustomColor = 0;
     int Deck = 0;
+    bool FourColors = false;  ///< each suit in a color of its own
     bool operator==(const Choice&) const = default;
 };
 /// As the settings have them.
 [[nodiscard]] Choice Stored();
-/// "OK": writes all working values and gives the table its background and its cards their back. A
+/// "OK": writes all working values and gives the table its background and its cards their look. A
 /// running game goes on.
 void Confirm(const Choice& choice);
 

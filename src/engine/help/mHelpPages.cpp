@@ -165,12 +165,16 @@ const std::vector<Page>& All() {
           "starts it again, and Organize Favorites puts the list in order. All players share one list."}},
         {"settings",
          "Settings",
-         {"Customize, in the Tools menu, has the background of the table, the backs of the cards, the speeds "
+         {"Customize, in the Tools menu, has the background of the table, the look of the cards, the speeds "
           "of "
           "moving cards, the sounds, the range of random game numbers, and what is shown beside the menus.",
-          "The background, the deck, the speeds and the sounds are taken over with OK. The other choices act "
-          "at "
-          "once."}},
+          "Four Colors, beside the decks, shows Diamonds in blue and Clubs in green, so that no two suits "
+          "look "
+          "alike. The rules stay as they are: where they say red they mean Hearts and Diamonds, and where "
+          "they "
+          "say black they mean Spades and Clubs.",
+          "The background, the deck, the colors of the suits, the speeds and the sounds are taken over with "
+          "OK. The other choices act at once."}},
         {"files",
          "Files",
          {"The program keeps its files in your own folder for application data, and its settings where your "

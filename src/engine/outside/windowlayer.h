@@ -152,7 +152,7 @@ public:
     /// Shows the selection dialog modally.
     virtual void ShowSelect() = 0;
     virtual void LayoutTable() = 0;
-    /// Paints the table background from the settings.
+    /// Paints the table anew as the settings have it: its background and the colors of the suits.
     virtual void PaintBackground() = 0;
 };
 

@@ -57,6 +57,7 @@ inline constexpr NumberSetting RangeIndex    {"RangeIndex",       15,   0,      
 inline constexpr NumberSetting DeckIndex     {"DeckIndex",       531, 501,      544};
 inline constexpr NumberSetting TvIndex       {"TvIndex",           1,   0,        2};
 inline constexpr NumberSetting Fade          {"Fade",              1,   0,        1};
+inline constexpr NumberSetting FourColors    {"FourColors",        0,   0,        1};
 
 // The main window, in a section of its own: its place and size while it is not maximised, in pixels, and
 // the size of the table in it, in percent.

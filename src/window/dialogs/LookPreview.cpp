@@ -1,6 +1,8 @@
 // The previews, painted as the table paints.
 #include "window/dialogs/LookPreview.h"
 
+#include <array>
+
 #include <QPainter>
 
 #include "engine/commands/mCustomize.h"
@@ -10,6 +12,10 @@
 namespace {
 
 constexpr QSizeF DesignedCard(CardWidth / mPictures::TwipsPerPixel, CardHeight / mPictures::TwipsPerPixel);
+
+// The Ace of Hearts, the King of Spades, the Queen of Diamonds, the Ten of Clubs, in a fan to the right.
+constexpr std::array Faces = {1, 26, 38, 49};
+constexpr int FanStep = 24;
 
 }  // namespace
 
@@ -38,6 +44,24 @@ void LookPreview::paintEvent(QPaintEvent*) {
     // ratio.
     painter.fillRect(rect(), palette().color(QPalette::Mid));
     mPictures::SetBG(background_, painter, plate, rect().adjusted(1, 1, -1, -1), fade_, customColor_);
+}
+
+SuitsPreview::SuitsPreview(const char* name, QWidget* parent) : QWidget(parent) {
+    setObjectName(QLatin1String(name));
+    setFixedSize(DesignedCard.toSize() + QSize(FanStep * (static_cast<int>(Faces.size()) - 1), 0));
+}
+
+void SuitsPreview::SetFourColors(bool on) {
+    fourColors_ = on;
+    update();
+}
+
+void SuitsPreview::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    for (const int face : Faces) {
+        mPictures::DrawAtWholePixels(painter, mPictures::MainPic(face, devicePixelRatioF(), fourColors_));
+        painter.translate(FanStep, 0);
+    }
 }
 
 BackPreview::BackPreview(const char* name, QWidget* parent) : QWidget(parent) {

@@ -21,6 +21,21 @@ private:
     int customColor_ = 0;
 };
 
+/// A card of each suit, open, in the size that they have on the table.
+class SuitsPreview : public QWidget {
+    Q_OBJECT
+public:
+    explicit SuitsPreview(const char* name, QWidget* parent = nullptr);
+
+    void SetFourColors(bool on);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool fourColors_ = false;
+};
+
 /// One card, closed, in the size that it has on the table.
 class BackPreview : public QWidget {
     Q_OBJECT

@@ -60,6 +60,10 @@ frmCustomize::frmCustomize(QWidget* owner) : QDialog(owner) {
     });
     connect(cmdCustom, &QPushButton::clicked, this, &frmCustomize::PickColor);
     connect(tvDeck, &QTreeWidget::itemSelectionChanged, this, &frmCustomize::SelectDeck);
+    connect(chkFour, &QCheckBox::clicked, this, [this](bool on) {
+        choice_.FourColors = on;
+        Redraw();
+    });
     connect(cmdOK, &QPushButton::clicked, this, &frmCustomize::Confirm);
     connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
     cmdOK->setDefault(true);  // in the dialog by now, which only then remembers it
@@ -113,6 +117,7 @@ void frmCustomize::Redraw() {
         preview->SetBG(choice_.Background, choice_.Fade, choice_.CustomColor);
     }
     PicDeck->SetDeckPic(choice_.Deck);
+    picSuits->SetFourColors(choice_.FourColors);
     customColorNode_->setIcon(0, ilsIcons::Swatch(mPictures::ColorOf(choice_.CustomColor)));
 }
 

@@ -11,6 +11,7 @@
 
 class BackPreview;
 class LookPreview;
+class SuitsPreview;
 class QCheckBox;
 class QComboBox;
 class QPushButton;
@@ -59,6 +60,8 @@ private:
     QTreeWidget* tvDeck = nullptr;
     LookPreview* picDeckBack = nullptr;
     BackPreview* PicDeck = nullptr;
+    SuitsPreview* picSuits = nullptr;
+    QCheckBox* chkFour = nullptr;
     std::array<QSlider*, mCustomize::Speeds.size()> sliders_{};  // Slider1 to Slider4
     QTreeWidget* lvSound = nullptr;
     QPushButton* cmdOK = nullptr;

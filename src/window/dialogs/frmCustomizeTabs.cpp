@@ -160,13 +160,25 @@ QWidget* frmCustomize::BuildDecks() {
     picDeckBack = new LookPreview("picDeckBack");
     picDeckBack->setAccessibleName(tr("Preview of the deck"));
     PicDeck = new BackPreview("PicDeck");
+    picSuits = new SuitsPreview("picSuits");
+    picSuits->setAccessibleName(tr("Preview of the faces"));
     auto* onBack = new QVBoxLayout(picDeckBack);
+    onBack->addStretch();
     onBack->addWidget(PicDeck, 0, Qt::AlignCenter);
+    onBack->addStretch();
+    onBack->addWidget(picSuits, 0, Qt::AlignCenter);
+    onBack->addStretch();
+    chkFour = MakeCheck("chkFour", tr("Four Colors"), choice_.FourColors);
+    chkFour->setToolTip(tr("Diamonds blue and Clubs green; the rules count them as red and black as ever"));
 
     auto* tab = new QWidget;
-    auto* all = new QHBoxLayout(tab);
-    all->addWidget(tvDeck, 1);
-    all->addWidget(picDeckBack, 1);
+    auto* all = new QGridLayout(tab);
+    all->addWidget(tvDeck, 0, 0, 2, 1);
+    all->addWidget(picDeckBack, 0, 1);
+    all->addWidget(chkFour, 1, 1);
+    all->setRowStretch(0, 1);
+    all->setColumnStretch(0, 1);
+    all->setColumnStretch(1, 1);
     return tab;
 }
 

@@ -32,6 +32,8 @@ struct Rendered {
 };
 std::array<Rendered, 3> sizes;  // the last used first
 
+bool useFourColors = false;
+
 QPixmap Cached(const QString& name, double scale) {
     const QSize card = CardSize(scale);
     auto found = std::find_if(sizes.begin(), sizes.end(),
@@ -130,9 +132,14 @@ double ScaleOf(const QPainter& painter) {
     return std::hypot(transform.m11(), transform.m12()) * TwipsPerPixel;
 }
 
-QPixmap MainPic(int ind, double scale) {
-    return Cached(QStringLiteral("cards/%1").arg(ind >= 1 && ind <= LastFace ? ind : 1), scale);
+QPixmap MainPic(int ind, double scale, bool fourColors) {
+    const QString name = fourColors ? QStringLiteral("cards-four/%1") : QStringLiteral("cards/%1");
+    return Cached(name.arg(ind >= 1 && ind <= LastFace ? ind : 1), scale);
 }
+
+QPixmap MainPic(int ind, double scale) { return MainPic(ind, scale, useFourColors); }
+
+void UseFourColors(bool on) { useFourColors = on; }
 
 QPixmap GetPic(int ind, double scale) {
     const QPixmap back = Cached(QStringLiteral("backs/%1").arg(ind), scale);

@@ -28,6 +28,9 @@ inline constexpr QRectF CardBounds{-60, -60, CardWidth + 120, CardHeight + 120};
 
 /// Card face 1 to 52: suit × 13 + rank + 1.
 [[nodiscard]] QPixmap MainPic(int ind, double scale);
+[[nodiscard]] QPixmap MainPic(int ind, double scale, bool fourColors);
+/// Whether each suit has a color of its own from now on, where nobody asks for one or the other.
+void UseFourColors(bool on);
 /// The card back of that number, 501 to 544.
 [[nodiscard]] QPixmap GetPic(int ind, double scale);
 /// Pile mark 0 to 17.

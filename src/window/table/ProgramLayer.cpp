@@ -8,6 +8,7 @@
 
 #include "engine/state/cData.h"
 #include "window/dialogs/frmSelect.h"
+#include "window/look/mPictures.h"
 #include "window/records/frmFinish.h"
 #include "window/table/TableView.h"
 #include "window/table/frmMain.h"
@@ -123,6 +124,7 @@ void ProgramForms::LayoutTable() {
 }
 
 void ProgramForms::PaintBackground() {
+    mPictures::UseFourColors(gData->Get(Setting::FourColors) == 1);
     if (main_) main_->Table()->PaintBackground();
 }
 

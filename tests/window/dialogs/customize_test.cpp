@@ -114,6 +114,7 @@ protected:
         Click(dialog, "chkFade");
         ShowTab(dialog, 2);
         ClickNode(dialog, "tvDeck", "Nature 04");
+        Click(dialog, "chkFour");
         ShowTab(dialog, 3);
         for (int i = 1; i <= 4; ++i) {
             const std::string name = "Slider" + std::to_string(i);
@@ -159,7 +160,7 @@ TEST_F(CustomizeChanged, OKWritesAllAndChangesTheTableOnly) {
         {"CardSpeed", "44"},   {"UndoSpeed", "44"},     {"UndoallSpeed", "44"}, {"ReplaySpeed", "44"},
         {"SoundCardUp", "-1"}, {"SoundCardDown", "-1"}, {"SoundStart", "0"},    {"SoundAutoPlay", "0"},
         {"SoundUndo", "0"},    {"SoundRedo", "0"},      {"SoundWin", "0"},      {"BGIndex", "1005"},
-        {"Fade", "0"},         {"CustomColor", "128"},  {"DeckIndex", "544"}};
+        {"Fade", "0"},         {"CustomColor", "128"},  {"DeckIndex", "544"},   {"FourColors", "1"}};
     for (const auto& [key, value] : values) EXPECT_EQ(layer_.Settings.Values["Data/" + key], value) << key;
     EXPECT_EQ(forms_.Painted, 1);
     EXPECT_TRUE(PicBack == expected) << "the cards have the new back, and nothing else has changed";
@@ -179,6 +180,11 @@ TEST_F(Customize, ThePreviewsFollowBothTabs) {
     const QImage deck = Look(dialog, "PicDeck");
     ClickNode(dialog, "tvDeck", "Flowers 02");
     EXPECT_NE(Look(dialog, "PicDeck"), deck);
+    const QImage suits = Look(dialog, "picSuits");
+    Click(dialog, "chkFour");
+    EXPECT_NE(Look(dialog, "picSuits"), suits);
+    Click(dialog, "chkFour");
+    EXPECT_EQ(Look(dialog, "picSuits"), suits);
 }
 
 TEST_F(Customize, TheColorDialogsOwnColorCountsHoweverItIsLeft) {

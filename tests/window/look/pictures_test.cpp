@@ -43,6 +43,22 @@ TEST(PicturesByNumber, UnknownNumbersGiveTheDefaultPicture) {
     EXPECT_EQ(Background(1026, 0, 255).pixelColor(9, 9), QColor(255, 0, 0)) << "the custom colour";
 }
 
+TEST(PicturesByNumber, FourColorsAreOfDiamondsAndClubsAndOfEveryCourt) {
+    const auto pip = [](int suit) {
+        return mPictures::MainPic(suit * 13 + 2, 2).toImage().pixelColor(71, 41);
+    };
+    const auto king = [](int suit) { return mPictures::MainPic(suit * 13 + 13, 2).toImage(); };
+    for (int suit = 0; suit < 4; ++suit) {
+        const QColor usual = pip(suit);
+        const QImage usualKing = king(suit);
+        mPictures::UseFourColors(true);
+        EXPECT_EQ(pip(suit) != usual, suit >= 2) << suit;
+        EXPECT_NE(king(suit), usualKing) << suit;
+        mPictures::UseFourColors(false);
+        EXPECT_EQ(pip(suit), usual) << suit;
+    }
+}
+
 TEST(PicturesByNumber, ASelectedCardIsShownInverted) {
     PicBack.SetFaceMode(0, 0);
     const auto look = [](bool selected) {
