@@ -230,6 +230,7 @@ void CheckWin() {
     const FinishSummary summary = Summary();
     gData->PlaySound("Win");
     mSpoken::Say("The game is won");
+    gData->Layer().Forms.KeepTable();
     // Recorded before the dialog shows, so that the statistics that it opens contain the game.
     CloseGame(1);
     wanted = gData->Layer().Forms.ShowFinish(summary);

@@ -147,6 +147,9 @@ public:
     virtual void SetCaption(const std::string& caption) = 0;
     /// Five names, the most recent first; a free slot is empty.
     virtual void ShowRecent(const std::vector<std::string>& names) = 0;
+    /// A game is won and its table is about to be cleared: whoever wants to show it behind the end-of-game
+    /// dialog, which follows, takes a picture now.
+    virtual void KeepTable() {}
     /// Shows the end-of-game dialog modally.
     [[nodiscard]] virtual AfterGame ShowFinish(const FinishSummary& summary) = 0;
     /// Shows the selection dialog modally.

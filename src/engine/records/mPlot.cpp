@@ -106,6 +106,13 @@ Plot OnePoint(Kind kind, const ChartData& data) {
         if (kind == Kind::Effort) text += "\n" + ValueText(kind, series, value);
         plot.Points.push_back({static_cast<double>(series), std::move(text)});
     }
+    if (kind == Kind::Effort) {
+        plot.Heights.push_back({0.0, "0", true});
+        constexpr double Base = 10.0;
+        for (double value = 1.0; std::log10(1.0 + value) <= highest; value *= Base)
+            plot.Heights.push_back({std::log10(1.0 + value) / highest, mFunc::Grouped(value)});
+        plot.Scale = {"Points, moves and seconds", "Each line: ten times the one below"};
+    }
     return plot;
 }
 

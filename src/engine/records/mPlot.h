@@ -36,6 +36,8 @@ struct Plot {
     std::vector<Bar> Bars;       ///< at each place from the top down
     std::vector<Label> Points;   ///< at places; a second line of a label holds the value
     std::vector<Label> Heights;  ///< upwards
+    /// What the heights stand for, where the labels alone do not tell: lines of text.
+    std::vector<std::string> Scale;
 };
 
 [[nodiscard]] Plot Make(Kind kind, const mStatistics::ChartData& data);

@@ -52,7 +52,7 @@ void ChartView::SetLeastSize() {
     // Bars of one point tell nothing without their labels; of many points some labels are enough.
     if (data_.Rows.size() == 1 && data_.Points.empty())
         width = std::max(width, mCharts::FullWidth(plot_, this));
-    setMinimumSize(width, fontMetrics().height() * Lines);
+    setMinimumSize(width, fontMetrics().height() * (Lines + static_cast<int>(plot_.Scale.size())));
 }
 
 void ChartView::SetData(const mStatistics::ChartData& wanted) {

@@ -15,6 +15,10 @@ class frmFinish : public QDialog {
 public:
     explicit frmFinish(const FinishSummary& summary, QWidget* owner = nullptr);
 
+    /// Puts the dialog, before it is shown, where it covers none of that part of the screen (pixels), if
+    /// there is such a place close to its owner; otherwise it stays where the platform puts it.
+    void PlaceBeside(const QRect& shown);
+
     /// What the pressed button starts; nothing after "Close" or the window's own close button.
     [[nodiscard]] AfterGame Choice() const { return choice_; }
 

@@ -96,7 +96,8 @@ double Space(const QWidget* view) { return 1.5 * QFontMetricsF(view->font()).ave
 /// The width of the widest label along the axis, in pixels.
 double LabelWidth(const Plot& plot, const QWidget* view) {
     QFont font = view->font();
-    font.setBold(plot.Heights.empty());  // then the labels hold the values
+    // The second line of a label, which holds a value, stands out.
+    font.setBold(!plot.Points.empty() && plot.Points.front().Text.find('\n') != std::string::npos);
     const QFontMetricsF metrics(font);
     double width = 1;
     for (const mPlot::Label& label : plot.Points) {
@@ -165,6 +166,13 @@ QChart* Build(Kind kind, const mStatistics::ChartData& data, const Plot& plot, c
     auto* stack = Stack(kind, data, plot, view->palette());
     chart->addSeries(stack);
 
+    if (!plot.Scale.empty()) {
+        QStringList lines;
+        for (const std::string& line : plot.Scale) lines << QString::fromStdString(line).toHtmlEscaped();
+        chart->setTitle(lines.join(QStringLiteral("<br/>")));
+        chart->setTitleFont(view->font());
+        chart->setTitleBrush(view->palette().windowText());
+    }
     constexpr double Headroom = 0.03;
     auto* points = Axis(-0.5, std::max(1, plot.Places) - 0.5, view);
     auto* heights = Axis(0.0, 1.0 + Headroom, view);
@@ -202,7 +210,17 @@ void WriteLabels(QChart* chart, const Plot& plot, const QWidget* view) {
 
 int FullWidth(const Plot& plot, const QWidget* view) {
     const double labels = (LabelWidth(plot, view) + Space(view)) * static_cast<double>(plot.Points.size());
-    return static_cast<int>(std::ceil(labels)) + 6 * Margin;  // those of the layout are inside
+    const QFontMetricsF metrics(view->font());
+    double heights = 0;
+    for (const mPlot::Label& label : plot.Heights)
+        heights = std::max(heights, metrics.horizontalAdvance(QString::fromStdString(label.Text)));
+    double title = 0;
+    for (const std::string& line : plot.Scale)
+        title = std::max(title, metrics.horizontalAdvance(QString::fromStdString(line)));
+    // The margins of the layout are inside; beside the labels of the heights lie as many again.
+    constexpr int Margins = 6;
+    const double wanted = std::max(labels + heights + (heights > 0 ? Margins * Margin : 0), title);
+    return static_cast<int>(std::ceil(wanted)) + Margins * Margin;
 }
 
 int PlaceAt(const QChart* chart, const Plot& plot, const QPointF& position) {

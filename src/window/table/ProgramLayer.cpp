@@ -108,9 +108,18 @@ void ProgramForms::ShowRecent(const std::vector<std::string>& names) {
     if (main_) main_->ShowRecent(names);
 }
 
+void ProgramForms::KeepTable() {
+    if (main_) won_ = std::make_unique<WonTable>(*main_->Table());
+}
+
 AfterGame ProgramForms::ShowFinish(const FinishSummary& summary) {
     frmFinish dialog(summary, main_);
+    if (won_) {
+        dialog.PlaceBeside(won_->OnScreen());
+        won_->Celebrate();
+    }
     dialog.exec();
+    won_.reset();
     return dialog.Choice();
 }
 

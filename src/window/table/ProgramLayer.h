@@ -14,6 +14,7 @@
 #include "window/outside/QtFiles.h"
 #include "window/outside/QtSettings.h"
 #include "window/outside/QtSounds.h"
+#include "window/table/WonTable.h"
 
 class frmMain;
 
@@ -33,6 +34,7 @@ public:
     void Announce(const std::string& text) override;
     void SetCaption(const std::string& caption) override;
     void ShowRecent(const std::vector<std::string>& names) override;
+    void KeepTable() override;
     [[nodiscard]] AfterGame ShowFinish(const FinishSummary& summary) override;
     void ShowSelect() override;
     void LayoutTable() override;
@@ -40,6 +42,7 @@ public:
 
 private:
     frmMain* main_ = nullptr;
+    std::unique_ptr<WonTable> won_;  // from the win to the end of its dialog
     QPointer<QProgressDialog> progress_;
     std::optional<mDialog::BusyPointer> busy_;  // until a task has begun to count
 };

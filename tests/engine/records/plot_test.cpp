@@ -66,6 +66,19 @@ TEST(Plot, EveryValueLeavesABarAndNoneHidesAnother) {
     }
 }
 
+// Three figures of three units on one scale: each bar ends where the scale has its value.
+TEST(Plot, EffortsAreReadOffAScaleThatIsSaid) {
+    const mPlot::Plot plot = mPlot::Make(Kind::Effort, Efforts({{10, 100, 1000}}));
+    std::map<std::string, double> lines;
+    for (const mPlot::Label& label : plot.Heights) lines[label.Text] = label.At;
+    ASSERT_EQ(plot.Heights.size(), 5U);
+    EXPECT_DOUBLE_EQ(plot.Bars[0].Top, lines.at("10"));
+    EXPECT_DOUBLE_EQ(plot.Bars[1].Top, lines.at("100"));
+    EXPECT_DOUBLE_EQ(plot.Bars[2].Top, lines.at("1,000"));
+    EXPECT_FALSE(plot.Scale.empty());
+    EXPECT_TRUE(mPlot::Make(Kind::Strips, Efforts({{10, 100, 1000}})).Scale.empty());
+}
+
 TEST(Plot, HeightsAreLabelledAtRoundNumbers) {
     using Texts = std::vector<std::string>;
     struct Row {

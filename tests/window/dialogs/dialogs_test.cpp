@@ -332,6 +332,14 @@ TEST_F(Dialogs, TheEndOfAGameOffersWhatToDoNext) {
     Open(dialog);
     EXPECT_EQ(Find<QGroupBox>(dialog, "Frame1")->title(), QStringLiteral("Klondike"));
     EXPECT_THAT(Rows(Find<QListWidget>(dialog, "ListView1")), ElementsAreArray(summary.Lines));
+    const auto* list = Find<QListWidget>(dialog, "ListView1");
+    EXPECT_EQ(list->visualItemRect(list->item(list->count() - 1)).bottom(), list->viewport()->height() - 1)
+        << "as tall as its lines";
+    for (const auto& row : rows) {
+        const auto* button = Find<QToolButton>(dialog, std::get<0>(row));
+        EXPECT_EQ(button->y(), Find<QToolButton>(dialog, "New")->y());
+        EXPECT_NEAR(button->width(), Find<QToolButton>(dialog, "New")->width(), 1);
+    }
     EXPECT_EQ(Find<QWidget>(dialog, "chFin")->accessibleDescription(),
               QStringLiteral("Score 0, Moves 104, Time 1:00:05"));
     // The window's own button and Escape choose nothing.
