@@ -7,10 +7,10 @@
 #include <fmt/format.h>
 
 #include "engine/catalogue/definition.h"
+#include "engine/catalogue/families.h"
 #include "engine/commands/mGen.h"
 #include "engine/commands/mLoad.h"
 #include "engine/commands/mMain.h"
-#include "engine/help/mRules.h"
 #include "engine/rules/mFunc.h"
 #include "engine/state/cData.h"
 #include "engine/state/cPlate.h"
@@ -80,7 +80,7 @@ std::string Start(Lab& lab, const LabArguments& arguments) {
 std::string StartDeck(Lab& lab, const LabArguments& arguments) {
     arguments.ExpectCount(2, 2);
     const std::string name = KnownName(arguments);
-    mGen::StartDeck(name, arguments.Deck(1, mRules::Find(gData->GetGameID(name))->Deck));
+    mGen::StartDeck(name, arguments.Deck(1, mFamilies::Find(name)->Deck));
     return StateWith(lab, "draws", mLabState::Draws());
 }
 

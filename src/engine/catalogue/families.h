@@ -3,6 +3,7 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 struct Definition;
 
@@ -22,3 +23,10 @@ namespace gSirTommy     { void ListGames(); void SetGame(const std::string& name
 namespace gSpider       { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
 namespace gYukon        { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
 // clang-format on
+
+namespace mFamilies {
+
+/// The game of that name, or nullptr where no family has one.
+[[nodiscard]] const Definition* Find(std::string_view name);
+
+}  // namespace mFamilies

@@ -7,7 +7,9 @@
 
 #include "engine/catalogue/definition.h"
 #include "engine/catalogue/families.h"
+#include "engine/catalogue/mWinnability.h"
 #include "engine/help/mRulesText.h"
+#include "engine/help/mRulesWins.h"
 #include "engine/help/mRulesWords.h"
 #include "engine/state/cData.h"
 
@@ -236,7 +238,10 @@ std::string Page(int gameID) {
                        "</h1>\n<p>A game of the group <a href=\"group:" + std::to_string(group) + "\">" +
                        mRulesWords::Escape(gData->GroupfromGiD(group)) +
                        "</a>.</p>\n<p><img src=\"deal:" + id + "\" alt=\"The opening deal\"/></p>\n";
-    for (const Section& section : SectionsOf(game->Of)) {
+    std::vector<Section> sections = SectionsOf(game->Of);
+    if (const Winnability* found = mWinnability::Find(game->Of.Game->Name))
+        sections.push_back({"How often it can be won", mRulesWins::Paragraphs(*found)});
+    for (const Section& section : sections) {
         html += "<h2>" + section.Heading + "</h2>\n";
         for (const std::string& paragraph : section.Paragraphs) {
             html += "<p>" + mRulesWords::Escape(paragraph) + "</p>\n";

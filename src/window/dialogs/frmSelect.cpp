@@ -13,8 +13,11 @@
 #include <QVBoxLayout>
 #include <QVector>
 
+#include "engine/catalogue/families.h"
+#include "engine/catalogue/mWinnability.h"
 #include "engine/commands/mGen.h"
 #include "engine/commands/mSelect.h"
+#include "engine/help/mRulesWins.h"
 #include "engine/records/mPlayers.h"
 #include "engine/state/cData.h"
 #include "engine/state/cPlate.h"
@@ -74,6 +77,12 @@ void frmSelect::BuildControls() {
     // The longest name may take two lines; the controls below must not jump then.
     lblName->setMinimumHeight(2 * QFontMetrics(large).lineSpacing());
 
+    lblFacts = new QLabel;
+    lblFacts->setObjectName(QStringLiteral("lblFacts"));
+    lblFacts->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    lblFacts->setWordWrap(true);
+    lblFacts->setMinimumHeight(2 * fontMetrics().lineSpacing());
+
     imcPlayer = mDialog::MakeCombo("imcPlayer");
     mDialog::FillCombo(imcPlayer, ilsIcons::Player(), mPlayers::Names(), gData->CurPlayer());
     auto* playerLabel = new QLabel(tr("P&layer:"));
@@ -93,6 +102,7 @@ void frmSelect::BuildControls() {
     auto* side = new QVBoxLayout;
     side->addWidget(BuildPreview());
     side->addWidget(lblName);
+    side->addWidget(lblFacts);
     side->addSpacing(fontMetrics().height() / 2);
     side->addWidget(playerLabel);
     side->addWidget(imcPlayer);
@@ -124,7 +134,7 @@ QWidget* frmSelect::BuildPreview() {
     imgPick->setObjectName(QStringLiteral("imgPick"));
     imgPick->setAccessibleName(tr("Preview of the selected game"));
     // The list beside it and the controls below it keep their room on a small screen with large letters.
-    constexpr int LinesBelow = 14;
+    constexpr int LinesBelow = 16;
     const QSize screenRoom = screen()->availableSize() * 9 / 10;
     const QSize room(std::min(fontMetrics().averageCharWidth() * 52, screenRoom.width() * 2 / 5),
                      screenRoom.height() - LinesBelow * fontMetrics().height());
@@ -182,6 +192,11 @@ void frmSelect::ShowSelection() {
     cmdPlay->setEnabled(gData->GidfromName(text.toStdString()) != 0);
     if (GameTree::Tag(CurrentTree()->currentItem()) == 0) return;
     lblName->setText(text);
+    const std::string game = text.toStdString();
+    const Definition* definition = mFamilies::Find(game);
+    lblFacts->setText(definition
+                          ? QString::fromStdString(mRulesWins::Facts(*definition, mWinnability::Find(game)))
+                          : QString());
     imgPick->setPixmap(QPixmap::fromImage(
         mTablePicture::Preview(text.toStdString(), imgPick->size(), imgPick->devicePixelRatioF())));
 }

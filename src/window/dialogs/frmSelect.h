@@ -38,6 +38,7 @@ private:
     GameTree* tvwGroups = nullptr;
     GameTree* tvwOrg = nullptr;
     QLabel* lblName = nullptr;
+    QLabel* lblFacts = nullptr;
     QLabel* imgPick = nullptr;
     QComboBox* imcPlayer = nullptr;
     QPushButton* cmdPlay = nullptr;

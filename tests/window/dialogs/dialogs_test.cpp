@@ -136,6 +136,7 @@ TEST_F(Dialogs, SelectOpensOnTheLastGameTabAndPlayer) {
     Open(dialog);
     EXPECT_EQ(Selected(dialog), "Klondike");
     EXPECT_EQ(Text(dialog, "lblName"), "Klondike");
+    EXPECT_EQ(Text(dialog, "lblFacts").find("One deck"), 0U);
     EXPECT_EQ(Find<QComboBox>(dialog, "imcPlayer")->currentText(), QStringLiteral("Zoë"));
     EXPECT_EQ(Find<QComboBox>(dialog, "imcPlayer")->count(), 3);
     const QRect row = Tree(dialog)->visualItemRect(Tree(dialog)->currentItem());
