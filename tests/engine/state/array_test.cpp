@@ -108,10 +108,10 @@ TEST_F(MoveCard, TravelsInSteps) {
     mScript::Lay("H0 (9D); H2 KH (5C) 4D");
     WatchingStage stage(Card("5C"));
     PicBack.SetStage(&stage);
-    gArray->MoveCard(Card("5C"), Home, 0, 1, tMod::Play, 4, 1);
+    gArray->MoveCard(Card("5C"), Home, 0, 1, tMod::Play, 5, 1);
     PicBack.SetStage(&engine_.Layer.Stage);
     const std::vector<std::array<int, 3>> expected = {
-        {3590, 2402, 1}, {2990, 2355, 1}, {2390, 2307, 1}, {1790, 2260, 0}};
+        {3710, 2412, 1}, {3230, 2374, 1}, {2750, 2336, 1}, {2270, 2298, 1}, {1790, 2260, 0}};
     EXPECT_EQ(stage.Seen, expected);
     EXPECT_EQ(mPosition::Pile(Home, 0), "(9D) 5C 4D");
 }
