@@ -14,13 +14,13 @@
 #include "RecordMaker.h"
 #include "engine/commands/mLoad.h"
 #include "engine/commands/mMain.h"
+#include "engine/outside/DiskFiles.h"
 #include "engine/outside/memorylayer.h"
 #include "engine/records/cScore.h"
 #include "engine/state/cData.h"
-#include "window/outside/QtFiles.h"
 
 /// The files of the machine under a folder of their own.
-class BenchFiles : public QtFiles {
+class BenchFiles : public DiskFiles {
 public:
     explicit BenchFiles(std::string folder) : folder_(std::move(folder)) {}
     [[nodiscard]] std::string DataFolder() const override { return folder_ + '/'; }

@@ -21,13 +21,13 @@
 #include "engine/commands/mGen.h"
 #include "engine/commands/mLoad.h"
 #include "engine/commands/mMain.h"
+#include "engine/outside/DiskFiles.h"
 #include "engine/outside/memorylayer.h"
 #include "engine/records/cScore.h"
 #include "engine/state/cData.h"
 #include "tools/RandomPlayer.h"
 #include "tools/mChecks.h"
 #include "window/outside/QtCalendar.h"
-#include "window/outside/QtFiles.h"
 #include "window/outside/QtSettings.h"
 
 namespace {
@@ -103,7 +103,7 @@ int main(int argc, char** argv) {
     MemoryForms forms;
     MemoryHelp help;
     QtSettings settings;
-    QtFiles files;
+    DiskFiles files;
     QtCalendar calendar;
     NoSounds sounds;
     mLoad::Main({stage, settings, files, calendar, sounds, forms, help});

@@ -120,8 +120,7 @@ void InitApp() {
             break;
         }
     }
-    mPlayers::Mend();
-    if (gData->TotalPlayers() == 0) gData->SetPlayer(1, "Player1", true);
+    mPlayers::Mend();  // also makes the first player
     // This order fixes the numbering of the catalogue.
     gBDozen::ListGames();
     gBeCastle::ListGames();

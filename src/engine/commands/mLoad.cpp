@@ -18,15 +18,18 @@ void UnloadMain() {
     Shutdown();
 }
 
-void Shutdown() {
-    Forms& forms = gData->Layer().Forms;
+void WriteWaiting() {
     // A record that could not be written lives in memory only: the player gets a last chance to make room.
     while (gScore && !gScore->WriteKept()) {
-        if (!forms.AskToKeep(
+        if (!gData->Layer().Forms.AskToKeep(
                 "Records of finished games could still not be written and will be lost.\nTry again?")) {
             break;
         }
     }
+}
+
+void Shutdown() {
+    WriteWaiting();
     gData->Layer().Help.CloseAll();
     mGen::ReleaseAll();
     gData.reset();

@@ -9,6 +9,8 @@ namespace mLoad {
 void Main(const WindowLayer& layer);
 /// The main window is going: a running game is recorded as lost, then everything is released.
 void UnloadMain();
+/// Tries once more to write what could not be written yet, and again for as long as the user wants it.
+void WriteWaiting();
 /// Closes the help viewer and releases the objects.
 void Shutdown();
 

@@ -2,27 +2,31 @@
 #include "engine/commands/mSelect.h"
 
 #include "engine/commands/mGen.h"
+#include "engine/records/mPlayers.h"
 #include "engine/rules/mFunc.h"
 #include "engine/state/cData.h"
 
 namespace {
 
-void Start(const std::string& player, const std::string& game, const GameNumber& number) {
-    if (mGen::Dealing()) return;
+bool Start(const ShownPlayer& player, const std::string& game, const GameNumber& number) {
+    if (mGen::Dealing()) return true;
     if (gData->GidfromName(game) == 0) {
         gData->Layer().Forms.Inform("There is no game \"" + game + "\".");
-        return;
+        return true;
     }
     // Before the start: a running game that is abandoned here goes to the player just chosen.
-    if (!player.empty()) gData->SetCurPlayer(player);
+    if (!player.Name.empty() && !mPlayers::Select(player)) return false;
     mGen::StartGame(game, number);
+    return true;
 }
 
 }  // namespace
 
 namespace mSelect {
 
-void Play(const std::string& player, const std::string& game) { Start(player, game, mFunc::NewGameNo()); }
+bool Play(const ShownPlayer& player, const std::string& game) {
+    return Start(player, game, mFunc::NewGameNo());
+}
 
 double LargestNumber() {
     double power = 1.0;  // exact: the range has 15 digits at most
@@ -39,8 +43,8 @@ std::optional<std::string> NumberFault(const std::string& typed) {
     return "Please enter a number between 0 and " + mFunc::Grouped(largest);
 }
 
-void PlayNumber(const std::string& player, const std::string& game, const std::string& typed) {
-    Start(player, game, typed);
+bool PlayNumber(const ShownPlayer& player, const std::string& game, const std::string& typed) {
+    return Start(player, game, typed);
 }
 
 void PlayFavourite(const std::string& game, const std::string& number) {

@@ -4,10 +4,13 @@
 #include <optional>
 #include <string>
 
+#include "engine/records/PlayerList.h"
+
 namespace mSelect {
 
-/// "Play": makes `player` the current player and starts the game under a fresh number.
-void Play(const std::string& player, const std::string& game);
+/// "Play": makes `player` the current player and starts the game under a fresh number. False where the player
+/// is no longer called so, which the user is told.
+bool Play(const ShownPlayer& player, const std::string& game);
 /// The largest number of the random range: 10^RangeIndex - 1, at least 0.
 [[nodiscard]] double LargestNumber();
 /// "0 and 999,999".
@@ -15,7 +18,8 @@ void Play(const std::string& player, const std::string& game);
 /// The message for a typed number that is none or lies outside the range; nothing for a good one.
 [[nodiscard]] std::optional<std::string> NumberFault(const std::string& typed);
 /// "Select" with a number: makes `player` current and starts the deal of that number, kept as typed.
-void PlayNumber(const std::string& player, const std::string& game, const std::string& typed);
+/// False as above.
+bool PlayNumber(const ShownPlayer& player, const std::string& game, const std::string& typed);
 /// Starts a favourite deal; the number goes on as the text that it is. Nothing while cards are being dealt.
 void PlayFavourite(const std::string& game, const std::string& number);
 

@@ -154,7 +154,7 @@ const std::vector<Page>& All() {
           "selects them; the player can also be chosen when a game is selected.",
           "A player's records go with a new name, and are lost when the player is deleted. The selected "
           "player "
-          "cannot be deleted."}},
+          "cannot be deleted. A score file that belongs to no player is offered when Players opens."}},
         {"favourites",
          "Favorites and game numbers",
          {"A deal is named by its game and its number: the same number always gives the same deal. Select a "

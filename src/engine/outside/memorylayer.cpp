@@ -18,6 +18,28 @@ void MemorySettings::SaveSettings(const std::string&, const std::vector<SettingV
     for (const SettingValue& value : values) Values[value.Section + "/" + value.Key] = value.Value;
 }
 
+std::map<std::string, std::string> MemorySettings::GetSection(const std::string&,
+                                                              const std::string& section) const {
+    std::map<std::string, std::string> values;
+    const std::string start = section + '/';
+    for (auto value = Values.lower_bound(start); value != Values.end() && value->first.starts_with(start);
+         ++value) {
+        values.emplace(value->first.substr(start.size()), value->second);
+    }
+    return values;
+}
+
+FileError MemorySettings::ChangeSettings(const std::string& application,
+                                         const std::vector<SettingValue>& values) {
+    if (!Fault) SaveSettings(application, values);
+    return Fault;
+}
+
+bool MemorySettings::Alone(const std::string&, const std::function<void()>& step) {
+    if (!Busy) step();
+    return !Busy;
+}
+
 bool MemoryFiles::Exists(const std::string& path) const { return Contents.contains(path); }
 
 FileError MemoryFiles::MakeFolder(const std::string& path) {
@@ -31,6 +53,23 @@ FileError MemoryFiles::AppendLines(const std::string& path, const std::vector<st
     if (!content.empty() && content.back() != '\n') content += "\r\n";
     for (const std::string& line : lines) content += line + "\r\n";
     return {};
+}
+
+FileError MemoryFiles::List(const std::string& folder, std::vector<std::string>& names) const {
+    for (auto file = Contents.upper_bound(folder); file != Contents.end() && file->first.starts_with(folder);
+         ++file) {
+        std::string name = file->first.substr(folder.size());
+        if (name.find('/') == std::string::npos) names.push_back(std::move(name));
+    }
+    return {};
+}
+
+bool MemoryFiles::Same(const std::string& one, const std::string& other) const {
+    return one == other && Exists(one);
+}
+
+FileError MemoryFiles::Protection(const std::string& path) const {
+    return Protected.contains(path) ? FileError("It is write-protected") : FileError();
 }
 
 FileError MemoryFiles::Read(const std::string& path, std::string& content) const {
@@ -73,6 +112,11 @@ bool MemoryForms::Ask(const std::string& question) {
 
 std::optional<std::string> MemoryForms::AskSaveFile(const std::string& name, const std::string& filter) {
     SaveQuestions.push_back(name + "|" + filter);
+    if (!FirstSaveFiles.empty()) {
+        std::string file = FirstSaveFiles.front();
+        FirstSaveFiles.erase(FirstSaveFiles.begin());
+        return file;
+    }
     return SaveFile;
 }
 

@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -41,8 +42,17 @@ public:
     [[nodiscard]] std::string GetSetting(const std::string& application, const std::string& section,
                                          const std::string& key,
                                          const std::string& defaultValue) const override;
+    [[nodiscard]] std::map<std::string, std::string> GetSection(const std::string& application,
+                                                                const std::string& section) const override;
     void SaveSettings(const std::string& application, const std::vector<SettingValue>& values) override;
+    [[nodiscard]] FileError ChangeSettings(const std::string& application,
+                                           const std::vector<SettingValue>& values) override;
+    [[nodiscard]] bool Alone(const std::string& application, const std::function<void()>& step) override;
+    [[nodiscard]] std::string Path(const std::string&) const override { return {}; }
 
+    /// While it holds a cause, no change is made.
+    FileError Fault;
+    bool Busy = false;  ///< another program does not let this one in
     /// By "section/key"; the application is always the one program.
     std::map<std::string, std::string, std::less<>> Values;
 
@@ -58,11 +68,15 @@ public:
     [[nodiscard]] FileError MakeFolder(const std::string& path) override;
     [[nodiscard]] FileError AppendLines(const std::string& path,
                                         const std::vector<std::string>& lines) override;
+    [[nodiscard]] FileError List(const std::string& folder, std::vector<std::string>& names) const override;
+    [[nodiscard]] bool Same(const std::string& one, const std::string& other) const override;
+    [[nodiscard]] FileError Protection(const std::string& path) const override;
     [[nodiscard]] FileError Read(const std::string& path, std::string& content) const override;
     [[nodiscard]] FileError Replace(const std::string& path, const std::string& content) override;
     [[nodiscard]] FileError Remove(const std::string& path) override;
     [[nodiscard]] FileError Rename(const std::string& from, const std::string& to) override;
 
+    std::set<std::string> Protected;  ///< paths
     /// While it holds a cause, every operation that writes fails with it and changes nothing.
     FileError Fault;
     std::map<std::string, std::string> Contents;  ///< by path; a folder has its separator at the end
@@ -106,10 +120,11 @@ public:
     std::vector<std::string> Messages;
     std::vector<std::string> Heard;
     std::vector<std::string> Questions;
-    bool Answer = false;                     ///< to every question
-    std::vector<std::string> SaveQuestions;  ///< name, a bar, filter
-    std::optional<std::string> SaveFile;     ///< the user's choice, each time
-    int CancelAt = 101;                      ///< the percentage at which the user cancels a long task
+    bool Answer = false;                      ///< to every question
+    std::vector<std::string> SaveQuestions;   ///< name, a bar, filter
+    std::optional<std::string> SaveFile;      ///< the user's choice, each time
+    std::vector<std::string> FirstSaveFiles;  ///< what the user chooses before, in turn
+    int CancelAt = 101;                       ///< the percentage at which the user cancels a long task
     int LastPercent = -1;
     std::string Caption;
     std::vector<std::string> Recent;

@@ -4,6 +4,8 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -31,6 +33,9 @@ public:
     virtual void LetEventsRun() = 0;
 };
 
+/// What a file operation answers: nothing when it was done, else the cause as a text for the user.
+using FileError = std::optional<std::string>;
+
 /// A text value under a section and a key.
 struct SettingValue {
     std::string Section;
@@ -38,19 +43,30 @@ struct SettingValue {
     std::string Value;
 };
 
-/// Text values under an application, a section and a key.
+/// Text values under an application, a section and a key. Every read gives what the store holds at that
+/// moment, whichever program has written it.
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;
     [[nodiscard]] virtual std::string GetSetting(const std::string& application, const std::string& section,
                                                  const std::string& key,
                                                  const std::string& defaultValue) const = 0;
-    /// Returns when the values are on disk, where they arrive all at once.
+    /// All values of a section as they are at one moment, by key.
+    [[nodiscard]] virtual std::map<std::string, std::string> GetSection(const std::string& application,
+                                                                        const std::string& section) const = 0;
+    /// Returns when the values are on disk, where they arrive all at once. Values that cannot be written are
+    /// kept, which the user is told.
     virtual void SaveSettings(const std::string& application, const std::vector<SettingValue>& values) = 0;
+    /// The same, but values that cannot be written are not kept: all stays as it was.
+    [[nodiscard]] virtual FileError ChangeSettings(const std::string& application,
+                                                   const std::vector<SettingValue>& values) = 0;
+    /// Runs a step in which no other program changes the store; a step inside a step is part of it. False
+    /// where another program did not let this one in for five seconds: then the step has not run. Where the
+    /// store cannot be written, by nobody, the step runs all the same.
+    [[nodiscard]] virtual bool Alone(const std::string& application, const std::function<void()>& step) = 0;
+    /// How the paths of all the store's files begin; empty where it has none.
+    [[nodiscard]] virtual std::string Path(const std::string& application) const = 0;
 };
-
-/// What a file operation answers: nothing when it was done, else the cause as a text for the user.
-using FileError = std::optional<std::string>;
 
 /// Files and folders; paths are UTF-8. No operation leaves half of its work behind.
 class FileSystem {
@@ -66,7 +82,15 @@ public:
     /// returns. A last line that lacks its end is ended first. On failure the file is as before.
     [[nodiscard]] virtual FileError AppendLines(const std::string& path,
                                                 const std::vector<std::string>& lines) = 0;
-    /// Reads a whole file into `content`.
+    /// The names of the files in a folder, in no order.
+    [[nodiscard]] virtual FileError List(const std::string& folder,
+                                         std::vector<std::string>& names) const = 0;
+    /// Whether two paths lead to one file or folder, by whatever ways.
+    [[nodiscard]] virtual bool Same(const std::string& one, const std::string& other) const = 0;
+    /// Why a file must not be replaced, such as one that is write-protected; nothing where there is none.
+    [[nodiscard]] virtual FileError Protection(const std::string& path) const = 0;
+    /// Reads a whole file into `content`. What is no file, such as a device or a pipe, is a fault, and so is
+    /// one that is too large for the memory of a usual machine.
     [[nodiscard]] virtual FileError Read(const std::string& path, std::string& content) const = 0;
     /// Replaces a whole file in one step.
     [[nodiscard]] virtual FileError Replace(const std::string& path, const std::string& content) = 0;

@@ -7,8 +7,8 @@
 
 #include <fmt/format.h>
 
-#include "engine/records/mText.h"
 #include "engine/state/cData.h"
+#include "engine/state/mText.h"
 
 namespace {
 
@@ -102,9 +102,12 @@ private:
 RegionalDates::RegionalDates(RegionalFormat format) : format_(std::move(format)) {
     date_ = Tokens(format_.ShortDate, DateFields);
     for (const Token& token : Tokens(format_.LongTime, TimeFields)) {
-        if (token.Field == 't') zone_ = true;
-        if (token.Field != 0) continue;
-        if (!token.Mark.empty()) timeTexts_.push_back(token.Mark);
+        if (token.Field == 't') {
+            zone_ = true;
+            continue;
+        }
+        time_.push_back(token);
+        if (token.Field == 0 && !token.Mark.empty()) timeTexts_.push_back(token.Mark);
     }
 }
 
@@ -297,6 +300,50 @@ std::string RegionalDates::ShortDate(const CivilTime& date) const {
 std::string RegionalDates::ShortDate(const std::string& text) const {
     const std::optional<CivilTime> date = Read(text);
     return date ? ShortDate(*date) : text;
+}
+
+std::string RegionalDates::LongTime(const CivilTime& moment) const {
+    const bool halves = std::any_of(time_.begin(), time_.end(), [](const Token& token) {
+        return token.Field == 'A' || token.Field == 'a';
+    });
+    const std::string& half = moment.Hour < HalfDay ? format_.Morning : format_.Afternoon;
+    std::string text;
+    for (const Token& token : time_) {
+        const int width = std::min(token.Length, 2);
+        switch (token.Field) {
+            case 'h':
+                text += fmt::format("{:0{}}",
+                                    halves ? (moment.Hour + HalfDay - 1) % HalfDay + 1 : moment.Hour, width);
+                break;
+            case 'H':
+                text += fmt::format("{:0{}}", moment.Hour, width);
+                break;
+            case 'm':
+                text += fmt::format("{:0{}}", moment.Minute, width);
+                break;
+            case 's':
+                text += fmt::format("{:0{}}", moment.Second, width);
+                break;
+            case 'A':
+            case 'a':
+                text += half;
+                break;
+            case 0:
+                text += token.Text;
+                break;
+            default:  // P and p belong to the letter before them; nothing is finer than a second
+                break;
+        }
+    }
+    // What stood around the time zone.
+    for (const char* around : {"()", "[]"}) {
+        if (zone_ && text.ends_with(around)) text.resize(text.size() - 2);
+    }
+    return Localized(std::string(WithoutBlanks(text)));
+}
+
+std::string RegionalDates::DateAndTime(const CivilTime& moment) const {
+    return ShortDate(moment) + ' ' + LongTime(moment);
 }
 
 std::string RegionalDates::Label(const CivilTime& date, mDates::Interval interval) const {

@@ -25,12 +25,15 @@ public:
     /// The short date of a date text; a text that is no date as it stands.
     [[nodiscard]] std::string ShortDate(const std::string& text) const;
 
+    /// The short date, a blank and the long time, without a time zone.
+    [[nodiscard]] std::string DateAndTime(const CivilTime& moment) const;
+
     /// "Jan 05" for a day, "Jan 04" for a month, "2004" for a year.
     [[nodiscard]] std::string Label(const CivilTime& date, mDates::Interval interval) const;
 
 private:
     struct Token {
-        char Field;  ///< d, M or y; 0 for a text
+        char Field;  ///< a letter of the pattern; 0 for a text
         int Length;
         std::string Text;
         std::string Mark;  ///< Text without the blanks around it
@@ -44,10 +47,12 @@ private:
     [[nodiscard]] bool ReadTimeSeparator(Cursor& cursor) const;
     /// 'A', 'P', or 0 where neither stands.
     [[nodiscard]] char ReadHalf(Cursor& cursor) const;
+    [[nodiscard]] std::string LongTime(const CivilTime& moment) const;
     [[nodiscard]] std::string Localized(const std::string& ascii) const;
 
     RegionalFormat format_;
     std::vector<Token> date_;
+    std::vector<Token> time_;             // without the time zone
     std::vector<std::string> timeTexts_;  // between and behind the numbers of a time
     bool zone_ = false;                   // the long time ends with a time zone
 };

@@ -26,6 +26,7 @@ void cScore::OpenScore(const std::string& Player) {
 void cScore::OpenAllScore() {
     WriteKept();  // what waits belongs into the view; that it waits was told when it happened
     store_ = {};
+    bytes_ = 0;
     loaded_ = true;
     for (const std::string& player : mPlayers::Names()) OpenScore(player);
 }
@@ -96,12 +97,16 @@ void cScore::ClearStat() {
         return;
     }
     std::string faults;
-    for (const std::string& player : mPlayers::Names()) {
-        if (const FileError fault = DeleteScore(player)) {
-            faults += "The file " + FileName(player) + " could not be deleted: " + *fault + "\n";
+    const bool alone = gData->Alone([&] {
+        for (const std::string& player : mPlayers::Names()) {
+            if (const FileError fault = DeleteScore(player)) {
+                faults += "The file " + FileName(player) + " could not be deleted: " + *fault + "\n";
+            }
         }
-    }
-    if (faults.empty()) {
+    });
+    if (!alone) {
+        layer.Forms.InformCritical("Another program is busy with the players. Nothing has been cleared.");
+    } else if (faults.empty()) {
         layer.Forms.Inform("Statistics, High Score and Log have been Cleared.");
     } else {
         layer.Forms.InformCritical(faults + "Its records are still there.");

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "engine/outside/windowlayer.h"
+#include "engine/records/PlayerList.h"
 #include "engine/records/ScoreStore.h"
 #include "engine/records/tScore.h"
 
@@ -47,8 +48,8 @@ public:
     void OpenAllScore();
     void CloseScore();
     [[nodiscard]] bool IsLoaded() const { return loaded_; }
-    /// Tells the user which files could not be read, wholly or in single lines: each once, until more
-    /// is wrong with it. Called when a view opens, after its files are read.
+    /// Tells the user which files could not be read, wholly or in single lines: each once, until
+    /// something else is wrong with it. Called when a view opens, after its files are read.
     void ReportUnread();
 
     [[nodiscard]] int ScoreTop() const { return store_.Size(); }
@@ -116,24 +117,38 @@ public:
     /// Seconds since the session began; 0 when the clock was set back.
     [[nodiscard]] int SesTime() const;
 
+    static constexpr const char* Ending = ".sre";
+    /// The path of a player's score file; a name that no player can have throws std::invalid_argument.
     [[nodiscard]] static std::string FileName(const std::string& Player);
+    struct FileCount {
+        int Records = 0;
+        FileError Fault;
+    };
+    /// How many records a file holds.
+    [[nodiscard]] static FileCount CountRecords(const std::string& path);
     [[nodiscard]] static std::string FavFileName();
 
 private:
+    /// A line of a player's score file, or of the favourites.
     struct KeptLine {
-        std::string Path;
+        std::optional<ShownPlayer> Player;
         std::string Line;
     };
     /// What reading a file left out.
     struct Unread {
         std::string Whose;  ///< "Player1's records"
         int Lines = 0;
+        std::size_t Which = 0;  ///< tells other lines from these, also where there are as many
         FileError Fault;
         bool operator==(const Unread&) const = default;
     };
 
-    /// Appends what is kept, the lines of a file with one write; answers the faults by path.
-    std::map<std::string, std::string> TryKept();
+    using Faults = std::map<std::string, std::string>;  ///< causes by path
+    /// Appends what is kept, the lines of a file with one write. The lines of a player who was deleted go.
+    Faults TryKept();
+    Faults WriteLines(const PlayerList& list);
+    /// The file for a line as the list is; nothing where its player was deleted.
+    [[nodiscard]] static std::optional<std::string> PathOf(const KeptLine& line, const PlayerList& list);
     void DropKept(const std::string& path);
     /// Reads a file line by line; what `read` refuses is counted. A missing file has no lines.
     void ReadLines(const std::string& path, const std::string& whose,
@@ -143,6 +158,7 @@ private:
     void Rank(Fill fill);
 
     ScoreStore store_;
+    std::size_t bytes_ = 0;  ///< of the files that it was read from
     bool loaded_ = false;
     std::array<tScore, TopPlaces + 1> top_;
     std::vector<tScore> session_;

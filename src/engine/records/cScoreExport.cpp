@@ -6,9 +6,9 @@
 #include "engine/records/cScore.h"
 #include "engine/records/mPlayers.h"
 #include "engine/records/mStatistics.h"
-#include "engine/records/mText.h"
 #include "engine/rules/mFunc.h"
 #include "engine/state/cData.h"
+#include "engine/state/mText.h"
 
 namespace {
 
@@ -72,13 +72,12 @@ private:
 };
 
 void WriteHead(Report& report) {
-    const Calendar& calendar = gData->Layer().Calendar;
     report.Line(gData->ProdName() + " Score Board");
     report.BlankLines(1);
     report.Line(std::string(25, '*'));
     report.BlankLines(1);
     report.Line("Created By", gData->CurPlayer());
-    report.Line("Created Date", calendar.Text(calendar.Now()));
+    report.Line("Created Date", RegionalDates::Current().DateAndTime(mDates::Now()));
     report.BlankLines(1);
     report.Line(std::string(34, '-'));
     report.BlankLines(1);
@@ -108,6 +107,44 @@ void WriteTotals(Report& report, const cScore& scores) {
         report.Zones(s.Played, s.Won, mFunc::FormatTime(s.Time), s.Moves, s.Score).End();
     }
     report.BlankLines(2);
+}
+
+/// A path's folder, with the separator at its end, and what stands behind it.
+std::pair<std::string, std::string> Parts(const std::string& path) {
+    const auto separator = path.rfind(gData->Layer().Files.Separator());
+    if (separator == std::string::npos) return {"", path};
+    return {path.substr(0, separator + 1), path.substr(separator + 1)};
+}
+
+/// Whether a path leads into a folder, by whatever ways, to a name that begins and ends so.
+bool LeadsTo(const std::string& path, const std::string& folder, std::string_view begin,
+             std::string_view end) {
+    const auto [its, name] = Parts(path);
+    return name.starts_with(begin) && name.ends_with(end) && gData->Layer().Files.Same(its, folder);
+}
+
+/// Whether a file is one that this program keeps itself, or would take for one.
+bool IsOwn(const std::string& path) {
+    const FileSystem& files = gData->Layer().Files;
+    const std::string folder = gData->AppDir();
+    const auto [favFolder, favourites] = Parts(cScore::FavFileName());
+    if (LeadsTo(path, folder, "", cScore::Ending) || LeadsTo(path, folder, favourites, "")) return true;
+    // Through a link, which has another name.
+    std::vector<std::string> names;
+    (void)files.List(folder, names);
+    for (const std::string& name : names) {
+        if ((name.ends_with(cScore::Ending) || name == favourites) && files.Same(path, folder + name))
+            return true;
+    }
+    const std::string store = gData->Layer().Settings.Path(gData->ProdName());
+    if (store.empty()) return false;
+    const auto [storeFolder, storeName] = Parts(store);
+    return LeadsTo(path, storeFolder, storeName, "") || files.Same(path, store);
+}
+
+FileError WhyNotReplaced(const std::string& path) {
+    if (IsOwn(path)) return "It belongs to the program itself";
+    return gData->Layer().Files.Protection(path);
 }
 
 }  // namespace
@@ -149,8 +186,14 @@ bool cScore::WriteStat(const std::string& FileName, const Progress& progress) co
 
 void cScore::ExportStat() {
     Forms& forms = gData->Layer().Forms;
-    const std::optional<std::string> file = forms.AskSaveFile("Scoreboard", "Text File (*.txt) |*.txt");
-    if (!file || file->empty()) return;
+    std::optional<std::string> file;
+    for (bool again = true; again;) {
+        file = forms.AskSaveFile("Scoreboard", "Text File (*.txt) |*.txt");
+        if (!file || file->empty()) return;
+        const FileError fault = WhyNotReplaced(*file);
+        again = fault.has_value();
+        if (fault) forms.InformCritical("The statistics are not written to " + *file + ": " + *fault);
+    }
     bool cancelled = false;
     const auto goOn = [&](int percent) {
         cancelled = !forms.ShowProgress("Exporting the statistics", percent);

@@ -3,12 +3,12 @@
 
 #include <algorithm>
 #include <charconv>
-#include <limits>
+#include <cstdint>
 #include <span>
 
 #include <fmt/format.h>
 
-#include "engine/records/mText.h"
+#include "engine/state/mText.h"
 
 namespace {
 
@@ -61,18 +61,27 @@ bool Split(std::string_view line, std::span<Field> fields) {
     return true;
 }
 
-bool ReadInt(std::string_view text, int& value) {
+/// False for a number that its type cannot hold, which no game has written.
+template <typename Integer>
+bool ReadNumber(std::string_view text, Integer& value) {
     const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value);
     return fault == std::errc{} && end == text.data() + text.size();
 }
 
-bool ReadNumber(std::string_view text, double& value) {
+/// Moves, scores and results have 16 bits in a game.
+bool ReadShort(std::string_view text, int& value) {
+    std::int16_t number = 0;
+    if (!ReadNumber(text, number)) return false;
+    value = number;
+    return true;
+}
+
+bool ReadGameNumber(std::string_view text, double& value) {
     // Plain digits are the usual case, and up to 18 of them are exact in 64 bits.
     constexpr std::size_t SafeDigits = 18;
     if (!text.empty() && text.size() <= SafeDigits) {
         long long whole = 0;
-        const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), whole);
-        if (fault == std::errc{} && end == text.data() + text.size()) {
+        if (ReadNumber(text, whole)) {
             value = static_cast<double>(whole);
             return true;
         }
@@ -80,6 +89,14 @@ bool ReadNumber(std::string_view text, double& value) {
     const std::optional<double> parsed = mGameNumber::Parse(std::string(text));
     value = parsed.value_or(0.0);
     return parsed.has_value();
+}
+
+/// Takes what stands before the first `end` off the text, and the end itself; all where there is none.
+std::string_view TakeUntil(std::string_view& text, char end) {
+    const std::size_t at = text.find(end);
+    const std::string_view taken = text.substr(0, at);
+    text.remove_prefix(at == std::string_view::npos ? text.size() : at + 1);
+    return taken;
 }
 
 }  // namespace
@@ -101,11 +118,9 @@ bool ParseScore(std::string_view line, ScoreFields& record) {
     record.Date = fields[0].Text;
     record.gName = fields[1].Text;
     record.GameNo = fields[2];
-    if (!record.GameNo.Quoted && !ReadNumber(record.GameNo.Text, record.Number)) return false;
-    using Short = std::numeric_limits<short>;
-    return ReadInt(fields[3].Text, record.Time) && ReadInt(fields[4].Text, record.Moves) &&
-           ReadInt(fields[5].Text, record.Score) && ReadInt(fields[6].Text, record.Won) &&
-           record.Won >= Short::min() && record.Won <= Short::max();
+    if (!record.GameNo.Quoted && !ReadGameNumber(record.GameNo.Text, record.Number)) return false;
+    return ReadNumber(fields[3].Text, record.Time) && ReadShort(fields[4].Text, record.Moves) &&
+           ReadShort(fields[5].Text, record.Score) && ReadShort(fields[6].Text, record.Won);
 }
 
 std::optional<tFav> ParseFav(std::string_view line) {
@@ -118,7 +133,7 @@ std::optional<tFav> ParseFav(std::string_view line) {
         return favourite;
     }
     double number = 0.0;
-    if (!ReadNumber(fields[1].Text, number)) return std::nullopt;
+    if (!ReadGameNumber(fields[1].Text, number)) return std::nullopt;
     favourite.mGno = number;
     return favourite;
 }
@@ -128,14 +143,15 @@ int ForEachLine(std::string_view content, const std::function<bool(std::string_v
     if (content.substr(0, Mark.size()) == Mark) content.remove_prefix(Mark.size());
     const bool ascii = mText::IsAscii(content);
     int refused = 0;
-    while (!content.empty()) {
-        const std::size_t end = content.find('\n');
-        std::string_view line = content.substr(0, end);
-        content = end == std::string_view::npos ? std::string_view{} : content.substr(end + 1);
-        while (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-        if (line.find_first_not_of(" \t") == std::string_view::npos) continue;
+    const auto take = [&](std::string_view line) {
+        if (line.find_first_not_of(" \t") == std::string_view::npos) return;
         const bool taken = ascii || mText::IsAscii(line) ? read(line) : read(mText::FromFile(line));
         if (!taken) ++refused;
+    };
+    while (!content.empty()) {
+        // By LF first: it ends nearly every line, and CR stands before it.
+        const std::string_view block = TakeUntil(content, '\n');
+        for (std::string_view lines = block; !lines.empty();) take(TakeUntil(lines, '\r'));
     }
     return refused;
 }

@@ -37,8 +37,8 @@ struct ScoreFields {
 [[nodiscard]] bool ParseScore(std::string_view line, ScoreFields& fields);
 [[nodiscard]] std::optional<tFav> ParseFav(std::string_view line);
 
-/// Calls `read` with every line of a file that is not empty, in UTF-8. Lines end in CR LF, LF or with
-/// the file. Answers how many `read` refused.
+/// Calls `read` with every line of a file that is not empty, in UTF-8. Lines end in CR LF, LF, CR or with
+/// the file, each in its own way. Answers how many `read` refused.
 int ForEachLine(std::string_view content, const std::function<bool(std::string_view)>& read);
 
 }  // namespace mScoreFile

@@ -9,6 +9,7 @@
 
 #include "engine/records/cScore.h"
 #include "engine/records/mDates.h"
+#include "engine/records/mPlayers.h"
 #include "engine/rules/mFunc.h"
 #include "engine/state/cData.h"
 
@@ -142,9 +143,7 @@ DateView Dates(const DateRange& range) {
 
 std::vector<Row> PlayerRows() {
     std::vector<Row> rows;
-    const int players = gData->TotalPlayers();
-    for (int i = 1; i <= players; ++i) {
-        const std::string name = gData->GetPlayer(i);
+    for (const std::string& name : mPlayers::Names()) {
         const tStat stat = gScore->PlayerStat(name);
         // The ratio is rounded to two decimals before it becomes a percentage.
         rows.push_back(StatRow(name, stat, std::to_string(Rounded(stat.Won * 100LL, OrOne(stat.Played)))));

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <cstdlib>
 
 #include <fmt/format.h>
 
@@ -173,7 +175,9 @@ int ElapsedSecs() {
 }
 
 std::string FormatTime(int seconds) {
-    return fmt::format("{}:{:02}:{:02}", seconds / 3600, seconds / 60 % 60, seconds % 60);
+    // The sign once, before the whole; in 64 bits, where the least number has a positive one.
+    const std::int64_t all = std::abs(std::int64_t{seconds});
+    return fmt::format("{}{}:{:02}:{:02}", seconds < 0 ? "-" : "", all / 3600, all / 60 % 60, all % 60);
 }
 
 std::string Grouped(double number) {

@@ -82,7 +82,7 @@ void TryPick(int PicID, int Cell, int Pile, int Pos);
 [[nodiscard]] GameNumber NewGameNo();
 /// Seconds since the start of the running game, 0 when none runs or the clock was set back.
 [[nodiscard]] int ElapsedSecs();
-/// "1:02:03" for 3723 seconds; hours count on without a limit.
+/// "1:02:03" for 3723 seconds, "-0:00:05" for -5; hours count on without a limit.
 [[nodiscard]] std::string FormatTime(int seconds);
 /// A whole number with a comma between groups of three digits.
 [[nodiscard]] std::string Grouped(double number);

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <stdexcept>
 
+#include "engine/state/mPlayerName.h"
+
 std::unique_ptr<cData> gData;
 
 namespace {
@@ -14,7 +16,6 @@ constexpr const char* DataSection = "Data";
 constexpr const char* UsersSection = "Users";
 constexpr const char* RecentSection = "Recent";
 constexpr const char* CurPlayerKey = "100";
-constexpr const char* RenamingKey = "Renaming";
 
 struct SoundKey {
     const char* Key;
@@ -32,6 +33,13 @@ constexpr SoundKey Sounds[] = {
     {"Redo", "UNDO", Setting::SoundRedo},
     {"Win", "WIN", Setting::SoundWin},
 };
+
+std::vector<SettingValue> InSection(const char* section, const std::map<std::string, std::string>& values) {
+    std::vector<SettingValue> settings;
+    settings.reserve(values.size());
+    for (const auto& [key, value] : values) settings.push_back({section, key, value});
+    return settings;
+}
 
 }  // namespace
 
@@ -127,9 +135,13 @@ void cData::SetCurGName(const std::string& gName) {
     Save({{DataSection, "LastGName", gName}});
 }
 
-std::string cData::GetPlayer(int i) const {
-    return layer_.Settings.GetSetting(prodName_, UsersSection, std::to_string(i), "");
+std::string cData::PlayerAt(const std::string& key) const {
+    std::string name = layer_.Settings.GetSetting(prodName_, UsersSection, key, "");
+    // Names become paths of files; somebody may have written anything into the settings.
+    return mPlayerName::IsGood(name) ? name : std::string{};
 }
+
+std::string cData::GetPlayer(int i) const { return PlayerAt(std::to_string(i)); }
 
 int cData::TotalPlayers() const {
     int total = 0;
@@ -143,17 +155,23 @@ void cData::SetPlayer(int i, const std::string& PlayerName, bool CurPl) {
     Save(values);
 }
 
-std::string cData::CurPlayer() const {
-    return layer_.Settings.GetSetting(prodName_, UsersSection, CurPlayerKey, "");
-}
+std::string cData::CurPlayer() const { return PlayerAt(CurPlayerKey); }
 
 void cData::SetCurPlayer(const std::string& PlayerName) { Save({{UsersSection, CurPlayerKey, PlayerName}}); }
 
-std::string cData::Renaming() const {
-    return layer_.Settings.GetSetting(prodName_, UsersSection, RenamingKey, "");
+std::map<std::string, std::string> cData::Users() const {
+    return layer_.Settings.GetSection(prodName_, UsersSection);
 }
 
-void cData::SetRenaming(const std::string& names) { Save({{UsersSection, RenamingKey, names}}); }
+FileError cData::ChangeUsers(const std::map<std::string, std::string>& values) {
+    return layer_.Settings.ChangeSettings(prodName_, InSection(UsersSection, values));
+}
+
+void cData::KeepUsers(const std::map<std::string, std::string>& values) {
+    Save(InSection(UsersSection, values));
+}
+
+bool cData::Alone(const std::function<void()>& step) { return layer_.Settings.Alone(prodName_, step); }
 
 std::string cData::GetRecent(int i) const {
     return layer_.Settings.GetSetting(prodName_, RecentSection, std::to_string(i), "");

@@ -2,6 +2,7 @@
 // and the figures of the running game.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -126,15 +127,19 @@ public:
     void Set(const std::vector<NumberValue>& values);
     [[nodiscard]] std::string LastGName() const;
     [[nodiscard]] int TotalPlayers() const;
-    /// Slots 1 to 20; empty for a free slot.
+    /// Slots 1 to 20; empty for a free slot, and for one whose text cannot be the name of a player.
     [[nodiscard]] std::string GetPlayer(int i) const;
     void SetPlayer(int i, const std::string& PlayerName, bool CurPl);
     [[nodiscard]] std::string CurPlayer() const;
     void SetCurPlayer(const std::string& PlayerName);
-    /// A rename that is under way, "old/new" (no name holds a slash); empty for none. It takes several
-    /// writes, and what a program that was killed between them left is finished at the next start.
-    [[nodiscard]] std::string Renaming() const;
-    void SetRenaming(const std::string& names);
+    /// All that the section of the players holds at this moment, by key.
+    [[nodiscard]] std::map<std::string, std::string> Users() const;
+    /// Changes it at once; on failure it stays as it was.
+    [[nodiscard]] FileError ChangeUsers(const std::map<std::string, std::string>& values);
+    /// The same as any other setting: what cannot be written is told, kept and written later.
+    void KeepUsers(const std::map<std::string, std::string>& values);
+    /// As SettingsStore::Alone.
+    [[nodiscard]] bool Alone(const std::function<void()>& step);
     /// Slots 1 to 5, 1 the most recent; empty for a free slot.
     [[nodiscard]] std::string GetRecent(int i) const;
     void SetRecent(const std::string& gName);
@@ -164,6 +169,7 @@ private:
         bool Original;
     };
     [[nodiscard]] const Game& GameAt(int SiD) const;
+    [[nodiscard]] std::string PlayerAt(const std::string& key) const;
     void Save(const std::vector<SettingValue>& values) { layer_.Settings.SaveSettings(prodName_, values); }
     [[nodiscard]] const Game* Find(const std::string& gName) const;
 

@@ -80,7 +80,7 @@ void frmChoose::Load() {
     lblRange->setText(QString::fromStdString(mSelect::RangeText()));
     ShowFault();
     mDialog::FillCombo(cmGames, ilsIcons::Game(), gData->GameNames(), gData->LastGName());
-    mDialog::FillCombo(cmPlayer, ilsIcons::Player(), mPlayers::Names(), gData->CurPlayer());
+    ShowPlayers();
 }
 
 void frmChoose::ShowFault() {
@@ -99,9 +99,21 @@ void frmChoose::Select() {
         Text1->selectAll();
         return;
     }
+    const ShownPlayer player{cmPlayer->currentText().toStdString(), version_};
+    if (!player.Name.empty() && !mPlayers::StillThere(player)) {
+        ShowPlayers();
+        return;
+    }
     // What a game won by its very first moves leads to waits until the dialog is done with.
     const mGen::Action action;
     hide();
-    mSelect::PlayNumber(cmPlayer->currentText().toStdString(), cmGames->currentText().toStdString(), typed);
+    (void)mSelect::PlayNumber(player, cmGames->currentText().toStdString(), typed);
     accept();
+}
+
+void frmChoose::ShowPlayers() {
+    const PlayerList list = PlayerList::Read();
+    version_ = list.Version();
+    cmPlayer->clear();
+    mDialog::FillCombo(cmPlayer, ilsIcons::Player(), list.Names(), list.Current());
 }

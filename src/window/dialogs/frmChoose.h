@@ -2,6 +2,8 @@
 // again.
 #pragma once
 
+#include <cstdint>
+
 #include <QDialog>
 
 class QComboBox;
@@ -21,6 +23,10 @@ private:
     /// Tells, while one types, where the number will not be accepted.
     void ShowFault();
 
+    /// Fills the list of players and selects the current one.
+    void ShowPlayers();
+
+    std::int64_t version_ = 0;  ///< of the list of players that is shown
     QComboBox* cmPlayer = nullptr;
     QComboBox* cmGames = nullptr;
     QLabel* lblName = nullptr;

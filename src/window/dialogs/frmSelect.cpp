@@ -84,7 +84,7 @@ void frmSelect::BuildControls() {
     lblFacts->setMinimumHeight(2 * fontMetrics().lineSpacing());
 
     imcPlayer = mDialog::MakeCombo("imcPlayer");
-    mDialog::FillCombo(imcPlayer, ilsIcons::Player(), mPlayers::Names(), gData->CurPlayer());
+    ShowPlayers();
     auto* playerLabel = new QLabel(tr("P&layer:"));
     playerLabel->setBuddy(imcPlayer);
 
@@ -216,10 +216,22 @@ void frmSelect::ShowFound() {
 
 void frmSelect::Play() {
     if (!cmdPlay->isEnabled()) return;
+    const ShownPlayer player{imcPlayer->currentText().toStdString(), version_};
+    if (!player.Name.empty() && !mPlayers::StillThere(player)) {
+        ShowPlayers();
+        return;
+    }
     // What a game won by its very first moves leads to waits until the dialog is done with.
     const mGen::Action action;
     hide();
-    mSelect::Play(imcPlayer->currentText().toStdString(), SelectedText().toStdString());
+    (void)mSelect::Play(player, SelectedText().toStdString());
     gData->Set(Setting::TvIndex, SSTab1->currentIndex());
     accept();
+}
+
+void frmSelect::ShowPlayers() {
+    const PlayerList list = PlayerList::Read();
+    version_ = list.Version();
+    imcPlayer->clear();
+    mDialog::FillCombo(imcPlayer, ilsIcons::Player(), list.Names(), list.Current());
 }

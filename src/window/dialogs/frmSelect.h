@@ -1,6 +1,8 @@
 // The selection dialog: picks a game by name from three lists and starts it under a random number.
 #pragma once
 
+#include <cstdint>
+
 #include <QDialog>
 #include <QString>
 
@@ -31,8 +33,12 @@ private:
     void ShowFound();
     void Play();
 
+    /// Fills the list of players and selects the current one.
+    void ShowPlayers();
+
     mFind::Search search_;
     GameSearch* search = nullptr;
+    std::int64_t version_ = 0;  ///< of the list of players that is shown
     QTabWidget* SSTab1 = nullptr;
     GameTree* tvwAll = nullptr;
     GameTree* tvwGroups = nullptr;

@@ -2,10 +2,12 @@
 #include "window/records/LoadedScores.h"
 
 #include "engine/records/cScore.h"
+#include "engine/records/mPlayers.h"
 #include "window/controls/mDialog.h"
 
 LoadedScores::LoadedScores() : wasLoaded_(gScore->IsLoaded()) {
     {
+        mPlayers::Mend();  // what the views show are all players
         const mDialog::BusyPointer busy;
         gScore->OpenAllScore();
     }

@@ -3,6 +3,8 @@
 
 #include <QDialog>
 
+#include "engine/records/PlayerList.h"
+
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -10,18 +12,21 @@ class QPushButton;
 class dlGInput : public QDialog {
     Q_OBJECT
 public:
-    /// `mText` is the name of the player to rename; empty: a player is to be added.
-    dlGInput(const QString& mCaption, const QString& mText, QWidget* owner = nullptr);
+    /// `mText` is the player to rename; an empty name: a player is to be added.
+    dlGInput(const QString& mCaption, ShownPlayer mText, QWidget* owner = nullptr);
 
     /// Shows the dialog modally, until a good name is entered or the user cancels.
-    static void InputDlg(const QString& mCaption, const QString& mText, QWidget* owner);
+    static void InputDlg(const QString& mCaption, const ShownPlayer& mText, QWidget* owner);
 
 private:
+    /// Says what is wrong with the name that is being typed.
+    void ShowFault();
     void Enter();
 
-    QString oldName_;
+    ShownPlayer old_;
     QLabel* Label1 = nullptr;
     QLineEdit* Text1 = nullptr;
+    QLabel* lblFault = nullptr;
     QPushButton* OKButton = nullptr;
     QPushButton* CancelButton = nullptr;
 };

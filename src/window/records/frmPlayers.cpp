@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "engine/records/mPlayers.h"
+#include "engine/records/mStrayFiles.h"
 #include "engine/state/cData.h"
 #include "window/controls/ListModel.h"
 #include "window/controls/mDialog.h"
@@ -17,6 +18,8 @@ frmPlayers::frmPlayers(QWidget* owner) : QDialog(owner) {
     setObjectName(QStringLiteral("frmPlayers"));
     setWindowTitle(tr("Players"));
     BuildControls();
+    mPlayers::Mend();
+    mStrayFiles::Offer();
     UpdateLVPlayer();
     connect(lvPlayer->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmPlayers::EnableButtons);
@@ -56,10 +59,20 @@ void frmPlayers::BuildControls() {
 }
 
 void frmPlayers::UpdateLVPlayer() {
-    players_->SetTexts(mPlayers::Names());
-    mList::Select(lvPlayer, players_->Row(QString::fromStdString(gData->CurPlayer())));
+    const PlayerList list = PlayerList::Read();
+    players_->SetTexts(list.Names());
+    version_ = list.Version();
+    mList::Select(lvPlayer, players_->Row(QString::fromStdString(list.Current())));
     EnableButtons();
 }
+
+void frmPlayers::Renew() {
+    const std::optional<std::string> name = PlayerList::Read().NowCalled(Selected());
+    UpdateLVPlayer();
+    if (name) mList::Select(lvPlayer, players_->Row(QString::fromStdString(*name)));
+}
+
+ShownPlayer frmPlayers::Selected() const { return {mList::Selected(lvPlayer).toStdString(), version_}; }
 
 void frmPlayers::EnableButtons() {
     const QString player = mList::Selected(lvPlayer);
@@ -73,21 +86,26 @@ void frmPlayers::EnableButtons() {
 
 void frmPlayers::Add() {
     if (!mPlayers::RoomForOne()) return;
-    dlGInput::InputDlg(tr("Add Player"), QString(), this);
+    dlGInput::InputDlg(tr("Add Player"), {""}, this);
     UpdateLVPlayer();
 }
 
 void frmPlayers::Edit() {
-    dlGInput::InputDlg(tr("Edit Player"), mList::Selected(lvPlayer), this);
-    UpdateLVPlayer();
+    const ShownPlayer player = Selected();
+    if (mPlayers::StillThere(player)) dlGInput::InputDlg(tr("Edit Player"), player, this);
+    Renew();
 }
 
 void frmPlayers::Delete() {
-    mPlayers::Delete(mList::Selected(lvPlayer).toStdString());
-    if (players_->rowCount() != gData->TotalPlayers()) UpdateLVPlayer();  // else the player has been kept
+    mPlayers::Delete(Selected());
+    // Where the player has been kept, the selection stays.
+    Renew();
 }
 
 void frmPlayers::Select() {
-    mPlayers::Select(mList::Selected(lvPlayer).toStdString());
-    accept();
+    if (mPlayers::Select(Selected())) {
+        accept();
+    } else {
+        Renew();
+    }
 }

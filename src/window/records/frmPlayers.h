@@ -3,6 +3,8 @@
 
 #include <QDialog>
 
+#include "engine/records/PlayerList.h"
+
 class ListModel;
 class QPushButton;
 class QTreeView;
@@ -14,7 +16,11 @@ public:
 
 private:
     void BuildControls();
+    /// Shows the players of this moment and selects the current one.
     void UpdateLVPlayer();
+    /// The same, but the selected player stays so, whatever the name is by now.
+    void Renew();
+    [[nodiscard]] ShownPlayer Selected() const;
     /// What can be done with the selected row.
     void EnableButtons();
     void Add();
@@ -23,6 +29,7 @@ private:
     void Select();
 
     ListModel* players_ = nullptr;
+    std::int64_t version_ = 0;  ///< of the list that is shown
     QTreeView* lvPlayer = nullptr;
     QPushButton* cmdAdd = nullptr;
     QPushButton* cmdEdit = nullptr;

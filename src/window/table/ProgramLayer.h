@@ -7,11 +7,11 @@
 #include <QPointer>
 #include <QProgressDialog>
 
+#include "engine/outside/DiskFiles.h"
 #include "engine/outside/windowlayer.h"
 #include "window/controls/mDialog.h"
 #include "window/help/ProgramHelp.h"
 #include "window/outside/QtCalendar.h"
-#include "window/outside/QtFiles.h"
 #include "window/outside/QtSettings.h"
 #include "window/outside/QtSounds.h"
 #include "window/table/WonTable.h"
@@ -77,7 +77,7 @@ private:
     ProgramForms forms_;
     ProgramStage stage_;
     QtSettings settings_;
-    QtFiles files_;
+    DiskFiles files_;
     QtCalendar calendar_;
     QtSounds sounds_;
     ProgramHelp help_;

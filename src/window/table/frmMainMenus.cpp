@@ -10,6 +10,7 @@
 #include <QToolButton>
 
 #include "engine/commands/mGen.h"
+#include "engine/commands/mLoad.h"
 #include "engine/state/cData.h"
 #include "window/dialogs/frmAbout.h"
 #include "window/dialogs/frmChoose.h"
@@ -29,7 +30,8 @@
 namespace {
 
 // "E&xit" leaves at once: no record of a running game, no release of anything. All settings are on disk
-// already, since each is written when it is made; only the window's state waits until it has come to rest.
+// already, since each is written when it is made; only the window's state waits until it has come to rest,
+// and perhaps the record of an ended game for room on the disk.
 void ExitAtOnce() { _exit(0); }
 
 }  // namespace
@@ -88,6 +90,7 @@ void frmMain::BuildMenus() {
     file->addSeparator();
     entry(file, "mFile11", "E&xit", "", [this] {
         state_->Save();
+        mLoad::WriteWaiting();
         ExitAtOnce();
     });
 

@@ -1,4 +1,5 @@
 // Score, time and moves of the running game, and the texts that show them.
+#include <limits>
 #include <string>
 #include <tuple>
 
@@ -19,9 +20,17 @@ namespace {
 using testing::ElementsAre;
 
 TEST(Clock, FormatTime) {
-    const std::pair<int, const char*> rows[] = {
-        {0, "0:00:00"},    {59, "0:00:59"},     {60, "0:01:00"},     {3599, "0:59:59"},
-        {3723, "1:02:03"}, {86399, "23:59:59"}, {86400, "24:00:00"}, {450007, "125:00:07"}};
+    const std::pair<int, const char*> rows[] = {{0, "0:00:00"},
+                                                {59, "0:00:59"},
+                                                {60, "0:01:00"},
+                                                {3599, "0:59:59"},
+                                                {3723, "1:02:03"},
+                                                {86399, "23:59:59"},
+                                                {86400, "24:00:00"},
+                                                {450007, "125:00:07"},
+                                                {-1, "-0:00:01"},
+                                                {-3723, "-1:02:03"},
+                                                {std::numeric_limits<int>::min(), "-596523:14:08"}};
     for (const auto& [seconds, text] : rows) EXPECT_EQ(mFunc::FormatTime(seconds), text);
 }
 

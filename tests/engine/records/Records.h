@@ -43,6 +43,11 @@ public:
                       .Player = player};
         AddLine(player, mScoreFile::ScoreLine(record));
     }
+    /// A game of the current player ends, lost or won.
+    static void Close(const char* game, int won) {
+        gData->Figures.CurGName = game;
+        gScore->AddScore(won);
+    }
     [[nodiscard]] const std::vector<std::string>& Messages() const { return Layer.Forms.Messages; }
 
 private:

@@ -26,6 +26,7 @@ const RegionalFormat weekday{.ShortDate = "ddd d/M/yyyy", .LongTime = "HH:mm:ss"
 const RegionalFormat chakma{.ShortDate = "d/M/yyyy", .LongTime = "HH:mm:ss", .ZeroDigit = U'\U00011136'};
 const RegionalFormat finnish{.ShortDate = "d.M.yyyy", .LongTime = "H.mm.ss"};
 const RegionalFormat canadian{.ShortDate = "yyyy-MM-dd", .LongTime = "HH 'h' mm 'min' ss 's'"};
+const RegionalFormat bracketed{.ShortDate = "dd/MM/yyyy", .LongTime = "h:mm:ss (t)"};
 const RegionalFormat korean{
     .ShortDate = "yy. M. d.", .LongTime = "AP h:mm:ss", .Morning = "오전", .Afternoon = "오후"};
 const RegionalFormat bulgarian{.ShortDate = "d.MM.yy 'г'.", .LongTime = "H:mm:ss 'ч'."};
@@ -104,6 +105,17 @@ TEST(RegionalDates, ShowDatesInTheWayOfTheRegion) {
         {chakma, "\U0001113B/\U00011139/\U00011138\U00011136\U00011136\U0001113A"},
     };
     for (const auto& [format, text] : rows) EXPECT_EQ(RegionalDates(format).ShortDate(date), text);
+    const std::tuple<const RegionalFormat&, int, const char*> times[] = {
+        {american, 0, "3/5/2004 12:07:09 AM"},        {american, 12, "3/5/2004 12:07:09 PM"},
+        {american2, 23, "3/5/04 11:07:09 PM"},        {british, 7, "05/03/2004 07:07:09"},
+        {canadian, 7, "2004-03-05 07 h 07 min 09 s"}, {korean, 13, "04. 3. 5. 오후 1:07:09"},
+        {arabic, 13, "٥/٣/٢٠٠٤ ١:٠٧:٠٩ م"},           {bracketed, 7, "05/03/2004 7:07:09"},
+    };
+    for (const auto& [format, hour, text] : times) {
+        const CivilTime moment{.Year = 2004, .Month = 3, .Day = 5, .Hour = hour, .Minute = 7, .Second = 9};
+        EXPECT_EQ(RegionalDates(format).DateAndTime(moment), text);
+        EXPECT_EQ(RegionalDates(format).Read(text), moment) << "what is written can be read";
+    }
     const RegionalDates dates(american);
     EXPECT_EQ(dates.Label(date, Interval::Day), "Mar 05");
     EXPECT_EQ(dates.Label(date, Interval::Month), "Mar 04");

@@ -19,7 +19,7 @@ const char* const Head =
     "*************************\r\n"
     " \r\n"
     "Created By    Ann\r\n"
-    "Created Date  2004-02-01 12:00:00\r\n"
+    "Created Date  2/1/2004 12:00:00 PM\r\n"
     " \r\n"
     "----------------------------------\r\n"
     " \r\n"
@@ -114,6 +114,28 @@ TEST_F(Export, EndsWithoutATraceWhereTheUserCancels) {
     records_.Layer.Files.Contents[Target] = "old";
     gScore->ExportStat();
     EXPECT_EQ(Content(), "old");
+}
+
+TEST_F(Export, NeverTakesThePlaceOfWhatIsTheProgramsOrProtected) {
+    MemoryFiles& files = records_.Layer.Files;
+    files.Protected.insert("/home/ann/closed");
+    files.Contents["/home/ann/closed"] = "old";
+    files.Contents[gData->AppDir()];
+    const std::vector<std::string> refused = {cScore::FileName("Ann"), cScore::FileName("Nobody"),
+                                              cScore::FavFileName(), "/home/ann/closed"};
+    records_.Layer.Forms.FirstSaveFiles = refused;
+    const std::string before = records_.File("Ann");
+    gScore->ExportStat();
+    ASSERT_EQ(records_.Messages().size(), refused.size() + 1);
+    EXPECT_EQ(records_.Messages()[0],
+              "The statistics are not written to " + refused[0] + ": It belongs to the program itself");
+    EXPECT_EQ(records_.Messages()[3],
+              "The statistics are not written to /home/ann/closed: It is write-protected");
+    EXPECT_EQ(records_.Layer.Forms.SaveQuestions.size(), refused.size() + 1) << "the dialog comes again";
+    EXPECT_EQ(records_.File("Ann"), before);
+    EXPECT_EQ(files.Contents["/home/ann/closed"], "old");
+    EXPECT_FALSE(files.Exists(cScore::FileName("Nobody")) || files.Exists(cScore::FavFileName()));
+    EXPECT_EQ(Content(), Expected());
 }
 
 TEST_F(Export, AFileThatCannotBeWrittenIsNamed) {

@@ -10,6 +10,7 @@
 #include "engine/commands/mLoad.h"
 #include "engine/commands/mMain.h"
 #include "engine/records/Records.h"
+#include "engine/records/mPlayers.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -139,8 +140,10 @@ TEST_F(Kept, FollowsARenamedPlayerAndGoesWithADeletedOne) {
     Play("Player1", 1.0);
     Play("Bob", 2.0);
     files_.Fails.clear();
-    EXPECT_EQ(gScore->RenameScore("Player1", "Ann"), std::nullopt);
-    EXPECT_EQ(gScore->DeleteScore("Bob"), std::nullopt);
+    outside_.Forms.Answer = true;
+    EXPECT_TRUE(mPlayers::Enter("Player1", "Ann"));
+    EXPECT_TRUE(mPlayers::Select("Ann"));
+    mPlayers::Delete("Bob");
     EXPECT_TRUE(gScore->WriteKept());
     EXPECT_EQ(File("Ann"), Lines({"1"}));
     EXPECT_FALSE(files_.Exists(cScore::FileName("Player1")));
@@ -161,6 +164,47 @@ TEST_F(Kept, FilesThatCannotBeReadOrDeletedAreNamed) {
                                         HasSubstr(file + " could not be deleted: Permission denied")));
     EXPECT_TRUE(files_.Exists(file));
     EXPECT_FALSE(files_.Exists(cScore::FileName("Bob")));
+}
+
+TEST_F(Kept, LeavingAtOnceTriesOnceMoreAndAsks) {
+    files_.Fails = ".sre";
+    Play("Bob", 1.0);
+    mGen::StartGame("Klondike", 2.0);
+    mLoad::WriteWaiting();
+    EXPECT_THAT(outside_.Forms.Questions, ElementsAre(HasSubstr("will be lost.\nTry again?")));
+    files_.Fails.clear();
+    mLoad::WriteWaiting();
+    EXPECT_THAT(outside_.Forms.Questions, SizeIs(1));
+    EXPECT_EQ(File("Bob"), Lines({"1"})) << "and nothing of the running game";
+}
+
+TEST_F(Kept, FollowsAPlayerWhomAnotherProgramRenames) {
+    outside_.Forms.Answer = true;
+    files_.Fails = ".sre";
+    Play("Bob", 1.0);
+    Play("Player1", 2.0);
+    // Bob becomes Ann, and somebody else Bob; Player1's records go with the player.
+    const auto values = [&](const char* first, const char* second, const char* history) {
+        outside_.Settings.Values["Users/1"] = first;
+        outside_.Settings.Values["Users/2"] = second;
+        outside_.Settings.Values["Users/100"] = first;
+        outside_.Settings.Values["Users/History"] = history;
+    };
+    values("Ann", "Bob", "4/Bob/Ann/Cid/Bob/Player1/");
+    files_.Fails.clear();
+    mGen::StartGame("Klondike", 3.0);
+    mMain::CloseGame();
+    EXPECT_THAT(File("Ann"), testing::StartsWith(Lines({"1"})));
+    EXPECT_THAT(File("Ann"), HasSubstr(",3,0,0,0,0"));
+    EXPECT_EQ(File("Bob"), "");
+    EXPECT_EQ(File("Player1"), "");
+    // Where the settings are gone, a record that waits is none the less not lost.
+    files_.Fails = ".sre";
+    Play("Ann", 4.0);
+    outside_.Settings.Values.clear();
+    files_.Fails.clear();
+    EXPECT_TRUE(gScore->WriteKept());
+    EXPECT_THAT(File("Ann"), testing::EndsWith(Lines({"4"})));
 }
 
 // The end of the program asks before it gives a record up; closing it in a game records a loss, with the

@@ -5,8 +5,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "engine/commands/mGen.h"
+#include "engine/commands/mLoad.h"
 #include "engine/records/Records.h"
 #include "engine/records/mPlayers.h"
+#include "engine/records/mStrayFiles.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -20,9 +23,10 @@ constexpr const char* Exists = "Player Exists !";
 
 TEST(Players, ANameMustFitIntoAFileName) {
     const std::string tooLong(201, 'x');
-    for (const std::string& name : {std::string(), std::string("."), std::string(".."), std::string("a/b"),
-                                    std::string("a\\b"), std::string("a\nb"), std::string("a\0b", 3),
-                                    std::string("a\x7F"), std::string("a\xC2\x85"), tooLong}) {
+    for (const std::string& name :
+         {std::string(), std::string("."), std::string(".."), std::string("a/b"), std::string("a\\b"),
+          std::string("a\nb"), std::string("a\0b", 3), std::string("a\x7F"), std::string("a\xC2\x85"),
+          std::string("  \u3000"), tooLong}) {
         Records records;
         EXPECT_FALSE(mPlayers::Enter("", name)) << name;
         EXPECT_FALSE(mPlayers::Enter("Player1", name)) << name;
@@ -82,9 +86,237 @@ TEST(Players, ARenameTakesTheFileAlongAndNeverReplacesOne) {
 TEST(Players, AFileWithoutAPlayerComesBackWithItsName) {
     Records records({"Ann"});
     records.Add("Stranger", "Klondike", 1, 1);
+    records.Add("Stranger", "Klondike", 1, 1);
+    records.AddLine("Stranger", "no record");
     EXPECT_TRUE(mPlayers::Enter("", "Stranger"));
+    EXPECT_THAT(records.Messages(),
+                ElementsAre("The score file of Stranger was there already: its 2 records come along."));
     gScore->OpenAllScore();
-    EXPECT_EQ(gScore->PlayerStat("Stranger").Played, 1);
+    EXPECT_EQ(gScore->PlayerStat("Stranger").Played, 2);
+}
+
+TEST(Players, StrayFilesAreOfferedOnce) {
+    Records records({"Ann"});
+    const std::string folder = gData->AppDir();
+    records.Add("Bea", "Klondike", 1, 1);
+    records.Add("Cid", "Klondike", 1, 1);
+    records.Add("Cid", "Klondike", 1, 1);
+    // Names that no player can have, and files that are none of a player.
+    records.Layer.Files.Contents[folder + "  .sre"] = records.File("Bea");
+    for (const char* name : {".sre", "fav.dat", "Dan.txt", "Eve.sre.X1y2z3"})
+        records.Layer.Files.Contents[folder + name] = "x";
+    mStrayFiles::Offer();
+    EXPECT_THAT(records.Layer.Forms.Questions,
+                ElementsAre("The score file \"  .sre\" with 1 record belongs to no player.\n"
+                            "Take it back as the player Player1?",
+                            "The score file \"Bea.sre\" with 1 record belongs to no player.\n"
+                            "Take it back as the player Bea?",
+                            "The score file \"Cid.sre\" with 2 records belongs to no player.\n"
+                            "Take it back as the player Cid?"));
+    EXPECT_THAT(mPlayers::Names(), ElementsAre("Ann"));
+    mStrayFiles::Offer();
+    EXPECT_THAT(records.Layer.Forms.Questions, SizeIs(3)) << "not again";
+    // What is gone and comes again is another file.
+    ASSERT_EQ(records.Layer.Files.Remove(cScore::FileName("Bea")), std::nullopt);
+    mStrayFiles::Offer();
+    records.Add("Bea", "Klondike", 1, 1);
+    records.Layer.Forms.Answer = true;
+    mStrayFiles::Offer();
+    EXPECT_THAT(records.Layer.Forms.Questions, SizeIs(4));
+    EXPECT_THAT(mPlayers::Names(), ElementsAre("Ann", "Bea"));
+}
+
+TEST(Players, AStrayFileWhoseNameIsNoTextGetsAnother) {
+    Records records({"Ann"});
+    records.Layer.Forms.Answer = true;
+    records.Layer.Files.Contents[gData->AppDir() + "Zo\xEB.sre"] = "";
+    mStrayFiles::Offer();
+    EXPECT_THAT(records.Layer.Forms.Questions, ElementsAre(HasSubstr("\"Zoë.sre\" with 0 records")));
+    EXPECT_THAT(mPlayers::Names(), ElementsAre("Ann", "Player1"));
+    EXPECT_TRUE(records.HasFile("Player1"));
+    EXPECT_THAT(records.Messages(), IsEmpty());
+}
+
+TEST(Players, ADeletionThatWasBegunIsFinished) {
+    const std::pair<const char*, bool> rows[] = {
+        // the note, whether the file goes
+        {"3/Cid", true},   {"2/Cid", false},  // of another change
+        {"3/Ann", false},                     // who is in the list
+        {"3/../x", false}, {"Cid", false},
+    };
+    for (const auto& [note, goes] : rows) {
+        SCOPED_TRACE(note);
+        Records records({"Ann", "Bob"});
+        for (const char* name : {"Ann", "Cid"}) records.Add(name, "Klondike", 1, 1);
+        records.Layer.Settings.Values["Users/History"] = "3/Bea/Cid/Cid/";
+        records.Layer.Settings.Values["Users/Deleting"] = note;
+        mPlayers::Mend();
+        EXPECT_EQ(records.HasFile("Cid"), !goes);
+        EXPECT_TRUE(records.HasFile("Ann"));
+        EXPECT_THAT(mPlayers::Names(), ElementsAre("Ann", "Bob"));
+    }
+}
+
+TEST(Players, WhatADialogShowedIsHeldAgainstTheListOfNow) {
+    Records records({"Ann", "Bea", "Cid"});
+    records.Layer.Forms.Answer = true;
+    for (const char* name : {"Ann", "Bea", "Cid"}) records.Add(name, "Klondike", 1, 1);
+    const auto shown = [version = PlayerList::Read().Version()](const char* name) {
+        return ShownPlayer(name, version);
+    };
+    // What another program does meanwhile: Bea is called Bo and then Bob, Cid takes her name, Ann her first
+    // one.
+    for (const auto& [from, to] : {std::pair("Bea", "Bo"), {"Bo", "Bob"}, {"Cid", "Bo"}})
+        ASSERT_TRUE(mPlayers::Enter(from, to));
+    ASSERT_TRUE(mPlayers::Enter("Ann", "Bea"));
+    const auto files = records.Layer.Files.Contents;
+    const auto told = [&records](const char* text) {
+        EXPECT_THAT(records.Messages(), ElementsAre(text));
+        records.Layer.Forms.Messages.clear();
+    };
+    mPlayers::Delete(shown("Bea"));
+    told("Bea is now called Bob.");
+    EXPECT_FALSE(mPlayers::Enter(shown("Bea"), "Zoe"));
+    told("Bea is now called Bob.");
+    EXPECT_FALSE(mPlayers::Select(shown("Cid")));
+    told("Cid is now called Bo.");
+    EXPECT_THAT(records.Layer.Forms.Questions, IsEmpty());
+    EXPECT_EQ(gData->CurPlayer(), "Bea");
+    EXPECT_EQ(records.Layer.Files.Contents, files);
+    EXPECT_THAT(mPlayers::Names(), ElementsAre("Bea", "Bob", "Bo"));
+
+    // Deleted and added anew: another player of the same name.
+    mPlayers::Delete("Bob");
+    ASSERT_TRUE(mPlayers::Enter("", "Bob"));
+    EXPECT_FALSE(mPlayers::Select(shown("Bea")));
+    told("Bea is not in the list of players any more.");
+    EXPECT_TRUE(mPlayers::Select("Bob"));
+    EXPECT_FALSE(mPlayers::Select(ShownPlayer("Nobody")));
+    told("Nobody is not in the list of players any more.");
+    EXPECT_EQ(gData->CurPlayer(), "Bob");
+}
+
+TEST(Players, AnOpenQuestionHoldsNothingUp) {
+    // While the question stands, another program selects the player.
+    class Answering : public MemoryForms {
+    public:
+        bool Ask(const std::string&) override {
+            gData->SetCurPlayer("Bea");
+            return true;
+        }
+    };
+    Records records({"Ann", "Bea"});
+    records.Add("Bea", "Klondike", 1, 1);
+    Answering forms;
+    MemoryLayer& layer = records.Layer;
+    const std::string prodName = gData->ProdName();
+    mLoad::UnloadMain();
+    mLoad::Main({layer.Stage, layer.Settings, layer.Files, layer.Calendar, layer.Sounds, forms, layer.Help});
+    mGen::InitApp();
+    mPlayers::Delete("Bea");
+    EXPECT_THAT(forms.Messages, ElementsAre("Bea is the selected player now, who cannot be deleted."));
+    EXPECT_TRUE(records.HasFile("Bea"));
+    EXPECT_THAT(mPlayers::Names(), ElementsAre("Ann", "Bea"));
+    mLoad::UnloadMain();
+    mLoad::Main(layer.Layer());  // for the end of the test
+    mGen::InitApp();
+}
+
+TEST(Players, NothingChangesWhereTheListCannotBeWritten) {
+    Records records({"Ann", "Bea"});
+    records.Layer.Forms.Answer = true;
+    for (const char* name : {"Ann", "Bea"}) records.Add(name, "Klondike", 1, 1);
+    const auto files = records.Layer.Files.Contents;
+    const auto values = records.Layer.Settings.Values;
+    const auto tryAll = [&](const char* told) {
+        EXPECT_FALSE(mPlayers::Enter("", "Cid"));
+        EXPECT_FALSE(mPlayers::Enter("Bea", "Cid"));
+        mPlayers::Delete("Bea");
+        EXPECT_THAT(records.Messages(), ElementsAre(HasSubstr(told), HasSubstr(told), HasSubstr(told)));
+        EXPECT_EQ(records.Layer.Files.Contents, files);
+        EXPECT_EQ(records.Layer.Settings.Values, values);
+        records.Layer.Forms.Messages.clear();
+    };
+    records.Layer.Settings.Fault = "No space left on device";
+    tryAll("could not be written: No space left on device");
+    records.Layer.Settings.Fault.reset();
+    records.Layer.Settings.Busy = true;
+    tryAll("Another program is busy with the list of players");
+    // A record that finds no turn waits.
+    Records::Close("Klondike", 1);
+    EXPECT_THAT(records.Messages(), ElementsAre(HasSubstr("It is kept")));
+    records.Layer.Settings.Busy = false;
+    EXPECT_TRUE(gScore->WriteKept());
+    gScore->OpenAllScore();
+    EXPECT_EQ(gScore->PlayerStat("Ann").Played, 2);
+}
+
+TEST(Players, NamesInTheSettingsAreHeldAgainstTheRules) {
+    using Names = std::vector<std::string>;
+    struct Row {
+        const char* Says;
+        Names Slots;
+        std::string Current;
+        Names Shown;
+        const char* Selected;
+        const char* Told;  // a part of the one message; none: nothing is told
+    };
+    const std::string longName(201, 'x');
+    const Row rows[] = {
+        {"a path",
+         {"../../../../evil", "Bob"},
+         "../../../../evil",
+         {"Bob"},
+         "Bob",
+         "a player \"../../../../evil\""},
+        {"the folder itself", {"Ann", "."}, "Ann", {"Ann"}, "Ann", "a player \".\""},
+        {"a control character",
+         {"Ann",
+          "B\x1B"
+          "b"},
+         "Ann",
+         {"Ann"},
+         "Ann",
+         "a player \"B?b\""},
+        {"blanks", {"Ann", " \u00A0 "}, "Ann", {"Ann"}, "Ann", "which cannot be the name"},
+        {"too long", {"Ann", longName}, "Ann", {"Ann"}, "Ann", "xxx…\""},
+        {"usual elsewhere",
+         {"CON", ".hidden", "...", "a:b*?"},
+         "CON",
+         {"CON", ".hidden", "...", "a:b*?"},
+         "CON",
+         nullptr},
+        {"none that is good", {"/"}, "", {"Player1"}, "Player1", "a player \"/\""},
+        {"twice, with a gap", {"A", "", "A"}, "A", {"A"}, "A", nullptr},
+        {"behind a gap", {"A", "", "", "B"}, "B", {"A", "B"}, "B", nullptr},
+        {"selected, but in no slot", {"A", "B"}, "Ghost", {"A", "B"}, "A", "player Ghost is not in the list"},
+        {"none selected", {"A", "B"}, "", {"A", "B"}, "A", nullptr},
+        {"nothing at all", {}, "", {"Player1"}, "Player1", nullptr},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Says);
+        Records records;
+        auto& values = records.Layer.Settings.Values;
+        values.clear();
+        for (std::size_t i = 0; i < row.Slots.size(); ++i)
+            values["Users/" + std::to_string(i + 1)] = row.Slots[i];
+        values["Users/100"] = row.Current;
+        for (int i = 1; i <= 20; ++i) EXPECT_TRUE(gData->GetPlayer(i).find('/') == std::string::npos);
+        const auto paths = records.Layer.Files.Contents;
+        Records::Close("Klondike", 1);  // finds its owner whatever is there
+        EXPECT_EQ(mPlayers::Names(), row.Shown);
+        EXPECT_EQ(gData->CurPlayer(), row.Selected);
+        if (row.Told) {
+            EXPECT_THAT(records.Messages(), ElementsAre(HasSubstr(row.Told)));
+        } else {
+            EXPECT_THAT(records.Messages(), IsEmpty());
+        }
+        gScore->OpenAllScore();
+        EXPECT_EQ(gScore->PlayerStat(row.Selected).Played, 1);
+        EXPECT_EQ(records.Layer.Files.Contents.size(), paths.size() + 1);
+        mPlayers::Mend();
+        EXPECT_TRUE(PlayerList::Read().IsTidy());
+    }
 }
 
 TEST(Players, ADeleteAsksAndClosesTheGap) {
@@ -137,12 +369,12 @@ TEST(Players, WhatAKilledProgramLeftIsPutRightAtTheNextStart) {
         SCOPED_TRACE(row.Says);
         Records records(row.Slots);
         gData->SetCurPlayer(row.Current);
-        gData->SetRenaming(row.Renaming);
+        records.Layer.Settings.Values["Users/Renaming"] = row.Renaming;
         records.Add(row.File, "Klondike", 1, 1);
         mPlayers::Mend();
         EXPECT_EQ(mPlayers::Names(), row.Mended);
         EXPECT_EQ(gData->CurPlayer(), row.MendedCurrent);
-        EXPECT_EQ(gData->Renaming(), "");
+        EXPECT_EQ(records.Layer.Settings.Values["Users/Renaming"], "");
         gScore->OpenAllScore();
         EXPECT_EQ(gScore->ScoreTop(), 1);
     }

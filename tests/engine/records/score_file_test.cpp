@@ -1,6 +1,7 @@
 // Lines of the score and favourites files: every form that is read, every fault that is not, and texts
 // in other encodings.
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -8,7 +9,7 @@
 
 #include "engine/records/Records.h"
 #include "engine/records/mScoreFile.h"
-#include "engine/records/mText.h"
+#include "engine/state/mText.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -28,7 +29,8 @@ TEST(ScoreLine, IsReadOrLeftOutAsAWhole) {
         {"a comma inside a text", R"("1/5/2004, 10 PM","A, B",1,2,3,4,1)"},
         {"blanks around the commas", R"("d" , "g", 1 ,2, 3,4 ,1 )"},
         {"a typed text that is no number", R"("d","g","x",2,3,4,1)"},
-        {"the ends of 32 bits", R"("d","g",1,2147483647,2147483647,-2147483648,1)"},
+        {"the ends of 32 and 16 bits", R"("d","g",1,2147483647,32767,-32768,1)"},
+        {"a negative time", R"("d","g",1,-2147483648,-32768,32767,1)"},
 
         {"cut off in the date", R"("2004-01-0)", false},
         {"cut off in the score", R"("2004-01-05 22:10:33","Klondike",123,60,45,10)", false},
@@ -38,6 +40,9 @@ TEST(ScoreLine, IsReadOrLeftOutAsAWhole) {
         {"eight fields", R"("d","g",1,2,3,4,1,1)", false},
         {"a number that is none", R"("d","g",12x,2,3,4,1)", false},
         {"a time beyond 32 bits", R"("d","g",1,2147483648,3,4,1)", false},
+        {"moves beyond 16 bits", R"("d","g",1,2,32768,4,1)", false},
+        {"a score beyond 16 bits", R"("d","g",1,2,3,-32769,1)", false},
+        {"a score beyond 64 bits", R"("d","g",1,2,3,99999999999999999999,1)", false},
         {"a result beyond 16 bits", R"("d","g",1,2,3,4,32768)", false},
         {"text behind a quote", R"("d"x,"g",1,2,3,4,1)", false},
         {"no record at all", "Score Board", false},
@@ -100,6 +105,8 @@ TEST(Lines, EndInAnyWay) {
         return read;
     };
     EXPECT_THAT(lines("a\r\nb\nc"), ElementsAre("a", "b", "c"));
+    EXPECT_THAT(lines("a\rb\r\rc\r"), ElementsAre("a", "b", "c"));
+    EXPECT_THAT(lines("a\rb\r\nc\nd\r"), ElementsAre("a", "b", "c", "d")) << "each in its own way";
     EXPECT_THAT(lines("\r\n\n  \r\na\r\r\n"), ElementsAre("a")) << "an empty line is no fault";
     EXPECT_THAT(lines(""), IsEmpty());
     EXPECT_THAT(lines("\xEF\xBB\xBF"
@@ -119,9 +126,26 @@ TEST(Text, OnlyValidUtf8IsTakenAsSuch) {
         EXPECT_FALSE(mText::IsUtf8(text));
         EXPECT_TRUE(mText::IsUtf8(mText::FromFile(text)));
     }
-    EXPECT_EQ(mText::Length("Zoë €"), 5);
-    EXPECT_EQ(mText::First("Zoë €x", 3), "Zoë");
-    EXPECT_EQ(mText::First("Zoë", 12), "Zoë");
+}
+
+TEST(Text, HasTheCharactersThatTheEyeCounts) {
+    const std::tuple<const char*, int, const char*> rows[] = {
+        // text, characters, the first three
+        {"", 0, ""},
+        {"Zo", 2, "Zo"},
+        {"Zoë €", 5, "Zoë"},
+        {"Zoe\u0308 €", 5, "Zoe\u0308"},                                      // the accent stands alone
+        {"\u200F٥\u200F/\u200F٣\u200F/٢", 5, "\u200F٥\u200F/\u200F٣\u200F"},  // marks of direction
+        {"ab\u200F", 2, "ab\u200F"},
+        {"\U0001F1E9\U0001F1EA\U0001F1EB\U0001F1F7xy", 4, "\U0001F1E9\U0001F1EA\U0001F1EB\U0001F1F7x"},
+        {"\U0001F469\u200D\U0001F467\U0001F44D\U0001F3FDab", 4,
+         "\U0001F469\u200D\U0001F467\U0001F44D\U0001F3FDa"},
+        {"\xFF\xFEz", 3, "\xFF\xFEz"},
+    };
+    for (const auto& [text, length, first] : rows) {
+        EXPECT_EQ(mText::Length(text), length) << text;
+        EXPECT_EQ(mText::First(text, 3), first) << text;
+    }
 }
 
 }  // namespace

@@ -75,11 +75,10 @@ TEST(Store, TotalsCountNegativeScoresAndStopAtTheLimit) {
     EXPECT_EQ(gScore->PlayerStat("Bob"), bob);
     EXPECT_EQ(gScore->GameStat("Yukon"), tStat{});
     EXPECT_EQ(gScore->PlayerStat("bob"), tStat{});
-    records.AddLine("Bob", R"("d","Yukon",1,2147483647,2147483647,-2147483648,1)");
-    records.AddLine("Bob", R"("d","Yukon",1,2147483647,2147483647,-2147483648,5)");
+    records.AddLine("Bob", R"("d","Yukon",1,2147483647,32767,-32768,1)");
+    records.AddLine("Bob", R"("d","Yukon",1,2147483647,32767,-32768,5)");
     gScore->OpenAllScore();
-    const tStat yukon{
-        .Played = 2, .Won = 1, .Lost = 1, .Score = -2147483647 - 1, .Moves = 2147483647, .Time = 2147483647};
+    const tStat yukon{.Played = 2, .Won = 1, .Lost = 1, .Score = -65536, .Moves = 65534, .Time = 2147483647};
     EXPECT_EQ(gScore->GameStat("Yukon"), yukon);
 }
 
@@ -203,6 +202,11 @@ TEST(Store, LinesThatCannotBeReadAreToldOnceAndKept) {
     ASSERT_THAT(records.Messages(), SizeIs(2)) << "until there are more";
     EXPECT_THAT(records.Messages()[1], HasSubstr("2 lines of Ann's"));
     EXPECT_THAT(records.Messages()[1], Not(HasSubstr("Bob")));
+    records.File("Ann") = records.File("Ann").substr(0, records.File("Ann").size() - 3) + "z\r\n";
+    gScore->OpenAllScore();
+    gScore->ReportUnread();
+    ASSERT_THAT(records.Messages(), SizeIs(3)) << "or there are others, as many as before";
+    EXPECT_THAT(records.Messages()[2], HasSubstr("2 lines of Ann's"));
 }
 
 TEST(Store, ClearStatAsksAndLeavesWhatIsLoaded) {

@@ -26,16 +26,13 @@
 #include <QTemporaryDir>
 
 #include "engine/commands/mGen.h"
-#include "engine/commands/mLoad.h"
-#include "engine/outside/memorylayer.h"
 #include "engine/records/cScore.h"
 #include "engine/records/mPlayers.h"
 #include "engine/records/mScoreFile.h"
 #include "engine/state/cData.h"
 #include "support/Child.h"
 #include "tools/RandomPlayer.h"
-#include "window/outside/QtFiles.h"
-#include "window/outside/QtSettings.h"
+#include "window/outside/Program.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -44,38 +41,6 @@ using testing::SizeIs;
 using testing::UnorderedElementsAreArray;
 
 namespace {
-
-int FromEnvironment(const char* name, int usual) {
-    const char* text = std::getenv(name);
-    return text ? std::atoi(text) : usual;
-}
-
-/// The engine over the files and the settings of the machine and the rest in memory.
-class Program {
-public:
-    Program() {
-        settings_.SetReport([this](const std::string& message) { outside_.Forms.Inform(message); });
-        outside_.Forms.Answer = true;
-        mLoad::Main({outside_.Stage, settings_, files_, outside_.Calendar, outside_.Sounds, outside_.Forms,
-                     outside_.Help});
-        mGen::InitApp();
-        gData->Figures.CurGName = "Klondike";
-    }
-    ~Program() { mLoad::UnloadMain(); }
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
-
-    static void Record(int number) {
-        gData->Figures.CurGNo = static_cast<double>(number);
-        gScore->AddScore(1);
-    }
-    [[nodiscard]] const std::vector<std::string>& Messages() const { return outside_.Forms.Messages; }
-
-private:
-    MemoryLayer outside_;
-    QtSettings settings_;
-    QtFiles files_;
-};
 
 class Durability : public testing::Test {
 protected:

@@ -1,6 +1,7 @@
 // Files and settings on a real disk: torn lines, two writers, a full disk, damaged and locked files.
 #include <array>
 #include <csignal>
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <set>
@@ -11,7 +12,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -19,9 +22,9 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include "engine/outside/DiskFiles.h"
 #include "support/Child.h"
 #include "window/outside/QtCalendar.h"
-#include "window/outside/QtFiles.h"
 #include "window/outside/QtSettings.h"
 
 using testing::ElementsAre;
@@ -54,7 +57,7 @@ protected:
     }
     [[nodiscard]] std::string Folder() const { return folder_.path().toStdString(); }
 
-    QtFiles files_;
+    DiskFiles files_;
 
 private:
     QTemporaryDir folder_;
@@ -100,11 +103,73 @@ TEST_F(Files, AShortWriteLeavesTheFileAsItWas) {
     }
 }
 
-TEST_F(Files, OnlyAFileTakesLines) {
+TEST_F(Files, WhatIsNoFileIsToldAndKeepsNobodyWaiting) {
     ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
-    EXPECT_EQ(files_.AppendLines(Path("pipe"), {"x"}), "It is not a file");
-    EXPECT_EQ(files_.AppendLines(Folder(), {"x"}), "Is a directory");
-    EXPECT_EQ(files_.AppendLines(Path("missing/file"), {"x"}), "No such file or directory");
+    ASSERT_EQ(::mkdir(Path("folder").c_str(), 0700), 0);
+    ASSERT_EQ(::symlink("/dev/zero", Path("device").c_str()), 0);
+    ASSERT_EQ(::symlink("ring", Path("ring").c_str()), 0);
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    ASSERT_LT(Path("socket").size(), sizeof address.sun_path);
+    std::strcpy(address.sun_path, Path("socket").c_str());
+    ASSERT_EQ(::bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    const std::pair<const char*, const char*> rows[] = {
+        {"pipe", "It is not a file"},
+        {"device", "It is not a file"},
+        {"socket", "It is not a file"},
+        {"folder", "Is a directory"},
+        {"ring", "Too many levels of symbolic links"},
+        {"missing/file", "No such file or directory"},
+    };
+    for (const auto& [name, cause] : rows) {
+        SCOPED_TRACE(name);
+        std::string content = "untouched";
+        EXPECT_EQ(files_.AppendLines(Path(name), {"x"}), cause);
+        EXPECT_EQ(files_.Read(Path(name), content), cause);
+        EXPECT_EQ(content, "untouched");
+        if (name != std::string("ring")) {
+            EXPECT_NE(files_.Replace(Path(name), "x"), std::nullopt);
+        }
+    }
+    ::close(socket);
+    std::vector<std::string> names;
+    Put(Path("file"), "x");
+    ASSERT_EQ(::symlink("file", Path("link").c_str()), 0);
+    EXPECT_EQ(files_.List(Folder(), names), std::nullopt);
+    EXPECT_THAT(names, testing::UnorderedElementsAre("file", "link"));
+    EXPECT_EQ(files_.List(Path("missing"), names), "No such file or directory");
+}
+
+TEST_F(Files, WhatNoMemoryHoldsIsNotRead) {
+    Put(Path("large"), "x");
+    // Without taking room on the disk.
+    ASSERT_EQ(::truncate(Path("large").c_str(), static_cast<off_t>(DiskFiles::MostBytes) + 1), 0);
+    std::string content;
+    EXPECT_EQ(files_.Read(Path("large"), content), "It is larger than 512 MB");
+    ASSERT_EQ(::truncate(Path("large").c_str(), off_t{1} << 40), 0);
+    EXPECT_EQ(files_.Read(Path("large"), content), "It is larger than 512 MB");
+    // A file of the kernel has no size before it is read.
+    EXPECT_EQ(files_.Read("/proc/self/status", content), std::nullopt);
+    EXPECT_THAT(content, HasSubstr("Pid:"));
+}
+
+TEST_F(Files, AreTheSameByWhateverWay) {
+    Put(Path("file"), "x");
+    Put(Path("other"), "x");
+    ASSERT_EQ(::link(Path("file").c_str(), Path("hard").c_str()), 0);
+    ASSERT_EQ(::symlink(Path("file").c_str(), Path("soft").c_str()), 0);
+    for (const std::string& way : {Path("hard"), Path("soft"), Folder() + "//./file",
+                                   Folder() + "/../" + Folder().substr(Folder().rfind('/') + 1) + "/file"}) {
+        EXPECT_TRUE(files_.Same(Path("file"), way)) << way;
+    }
+    EXPECT_FALSE(files_.Same(Path("file"), Path("other")));
+    EXPECT_FALSE(files_.Same(Path("missing"), Path("missing")));
+    EXPECT_EQ(files_.Protection(Path("file")), std::nullopt);
+    EXPECT_EQ(files_.Protection(Path("missing")), std::nullopt);
+    ::chmod(Path("file").c_str(), 0444);
+    EXPECT_EQ(files_.Protection(Path("soft")), "It is write-protected") << "also for root";
+    EXPECT_EQ(files_.Protection(Folder()), "It is not a file");
 }
 
 TEST_F(Files, RightsThatAreMissingAreToldAndNothingChanges) {
@@ -250,6 +315,115 @@ TEST_F(Settings, TwoProgramsKeepEachOthersValues) {
     EXPECT_THAT(Content(FileName()), HasSubstr("mine=1\n"));
 }
 
+TEST_F(Settings, EveryReadSeesWhatAnotherHasWritten) {
+    Save(settings_, "a", "1");
+    EXPECT_EQ(Get(settings_, "a"), "1");
+    for (const std::string value : {"2", "3", "4", "5"}) {
+        EXPECT_TRUE(InChild([&] {
+            QtSettings other;
+            Save(other, "a", value);
+            return true;
+        }));
+        EXPECT_EQ(Get(settings_, "a"), value);
+        EXPECT_EQ(settings_.GetSection(application_, "Data").at("a"), value);
+    }
+    // An editor may write into the file itself, as often as it likes, and the same size.
+    for (int i = 0; i < 200; ++i) {
+        const std::string value = std::to_string(100 + i);
+        Put(FileName(), "[Data]\na=" + value + "\n");
+        ASSERT_EQ(Get(settings_, "a"), value);
+    }
+    // In the middle of a change there may be anything: what was read before stands, and nothing is moved
+    // away.
+    Put(FileName(), "[Data]\na=6\nb");
+    EXPECT_EQ(Get(settings_, "a"), "299");
+    Put(FileName(), "[Data]\na=6\nb=7\n");
+    EXPECT_EQ(Get(settings_, "a") + Get(settings_, "b"), "67");
+    ASSERT_EQ(::unlink(FileName().c_str()), 0);
+    EXPECT_EQ(Get(settings_, "a"), "default");
+    EXPECT_THAT(reports_, IsEmpty());
+}
+
+TEST_F(Settings, AFileOfAnyEditorIsRead) {
+    ASSERT_EQ(DiskFiles().MakeFolder(Folder()), std::nullopt);
+    const char* const texts[] = {
+        "\xEF\xBB\xBF[Data]\na=1\nb=Zo\xC3\xAB\n",
+        "[Data]\r\na=1\r\nb=Zo\xC3\xAB\r\n",
+        "[Data]\ra=1\rb=Zo\xC3\xAB",
+        "\xEF\xBB\xBF[Data]\ra=1\r\n\nb=Zo\xC3\xAB\r",
+        "[Data]\na=1\nb=Zo\xEB\n",
+    };
+    for (const char* text : texts) {
+        Put(FileName(), text);
+        const QtSettings store;
+        EXPECT_EQ(Get(store, "a"), "1") << text;
+        EXPECT_EQ(Get(store, "b"), "Zoë") << text;
+    }
+}
+
+TEST_F(Settings, WhatIsNoSettingsFileIsToldAndKeepsNobodyWaiting) {
+    ASSERT_EQ(DiskFiles().MakeFolder(Folder()), std::nullopt);
+    const auto start = [&](const char* told) {
+        QtSettings store;
+        std::vector<std::string> reports;
+        store.SetReport([&](const std::string& text) { reports.push_back(text); });
+        EXPECT_EQ(Get(store, "a"), "default");
+        EXPECT_EQ(Get(store, "a"), "default");
+        ASSERT_THAT(reports, SizeIs(1));
+        EXPECT_THAT(reports[0], HasSubstr(told));
+        EXPECT_NE(store.ChangeSettings(application_, {{"Data", "a", "1"}}).has_value(), told[0] == 't')
+            << told;
+    };
+    ASSERT_EQ(::mkfifo(FileName().c_str(), 0600), 0);
+    start("could not be read: It is not a file");
+    ASSERT_EQ(::unlink(FileName().c_str()), 0);
+    ASSERT_EQ(::symlink("/dev/zero", FileName().c_str()), 0);
+    start("could not be read: It is not a file");
+    ASSERT_EQ(::unlink(FileName().c_str()), 0);
+    Put(FileName(), "[Data]\n");
+    ASSERT_EQ(::truncate(FileName().c_str(), off_t{1} << 40), 0);
+    start("the settings start from their defaults");
+    struct stat status {};
+    ASSERT_EQ(::stat((FileName() + ".damaged-1").c_str(), &status), 0);
+    EXPECT_EQ(status.st_size, off_t{1} << 40) << "kept as it is";
+}
+
+TEST_F(Settings, AStepIsAloneAndAllOrNothing) {
+    constexpr int Steps = 200;
+    const auto count = [&] {
+        QtSettings store;
+        for (int i = 0; i < Steps; ++i) {
+            const bool alone = store.Alone(application_, [&] {
+                const int before = std::stoi(store.GetSetting(application_, "Data", "count", "0"));
+                if (store.ChangeSettings(application_, {{"Data", "count", std::to_string(before + 1)}}))
+                    std::abort();
+            });
+            if (!alone) return false;
+        }
+        return true;
+    };
+    const pid_t other = StartChild(count);
+    EXPECT_TRUE(count());
+    EXPECT_EQ(EndOf(other), 0);
+    EXPECT_EQ(Get(settings_, "count"), std::to_string(2 * Steps));
+
+    // Where the store cannot be written nobody changes it, and a step runs without a turn.
+    ::chmod(FileName().c_str(), 0644);
+    ::chmod(Folder().c_str(), 0555);
+    EXPECT_TRUE(InChild([&] {
+        if (!BecomeNobody()) return false;
+        QtSettings store;
+        bool ran = false;
+        bool refused = false;
+        (void)store.Alone(application_, [&] {
+            ran = true;
+            refused = store.ChangeSettings(application_, {{"Data", "count", "0"}}).has_value();
+        });
+        return ran && refused && Get(store, "count") == std::to_string(2 * Steps);
+    }));
+    ::chmod(Folder().c_str(), 0755);
+}
+
 TEST_F(Settings, ADamagedFileIsSetAsideAndKept) {
     const std::vector<std::string> damaged = {
         "[Data\nAutoplay=1\n",
@@ -260,7 +434,7 @@ TEST_F(Settings, ADamagedFileIsSetAsideAndKept) {
                     20),
     };
     ASSERT_EQ(Get(settings_, "a"), "default");
-    ASSERT_EQ(QtFiles().MakeFolder(Folder()), std::nullopt);
+    ASSERT_EQ(DiskFiles().MakeFolder(Folder()), std::nullopt);
     for (std::size_t i = 0; i < damaged.size(); ++i) {
         SCOPED_TRACE(i);
         Put(FileName(), damaged[i]);

@@ -60,7 +60,7 @@ TEST_F(PlayerDialogs, TheNameDialogRefusesAndStaysOpen) {
     };
     for (const auto& [old, typed, message] : rows) {
         layer_.Forms.Messages.clear();
-        dlGInput dialog(QStringLiteral("Add Player"), QLatin1String(old));
+        dlGInput dialog(QStringLiteral("Add Player"), old);
         Open(dialog);
         EXPECT_EQ(Find<QLabel>(dialog, "Label1")->text(), QStringLiteral("Add Player"));
         auto* name = Find<QLineEdit>(dialog, "Text1");
@@ -100,6 +100,65 @@ TEST_F(PlayerDialogs, SelectMakesCurrentAndLeavesTheGameRunning) {
     EXPECT_TRUE(gData->Figures.GameRunning);
     mGen::CloseGame(0);
     EXPECT_TRUE(layer_.Files.Exists(cScore::FileName("Ann")));
+}
+
+TEST_F(PlayerDialogs, AStaleListIsToldAndRenewed) {
+    const auto everyButton = {"cmdEdit", "cmdDelete", "cmdSelect"};
+    for (const char* button : everyButton) {
+        layer_.Forms.Messages.clear();
+        frmPlayers dialog;
+        Open(dialog);
+        auto* list = Find<QTreeView>(dialog, "lvPlayer");
+        ClickRow(list, list->model()->index(1, 0));
+        // Another program renames Ann and gives her name to Bob.
+        ASSERT_TRUE(mPlayers::Enter("Ann", "Zoe") && mPlayers::Enter("Bob", "Ann"));
+        Click(dialog, button);
+        EXPECT_THAT(layer_.Forms.Messages, ElementsAre("Ann is now called Zoe."));
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_THAT(Rows(list), ElementsAre("Player1", "Zoe", "Ann"));
+        EXPECT_EQ(Selected(list), "Zoe");
+        EXPECT_EQ(gData->CurPlayer(), "Player1");
+        ASSERT_TRUE(mPlayers::Enter("Ann", "Bob") && mPlayers::Enter("Zoe", "Ann"));
+    }
+    // While the name is being typed.
+    dlGInput dialog(QStringLiteral("Edit Player"), ShownPlayer("Ann", PlayerList::Read().Version()));
+    Open(dialog);
+    ASSERT_TRUE(mPlayers::Enter("Ann", "Zoe"));
+    layer_.Forms.Messages.clear();
+    Find<QLineEdit>(dialog, "Text1")->setText(QStringLiteral("Eve"));
+    Click(dialog, "OKButton");
+    EXPECT_THAT(layer_.Forms.Messages, ElementsAre("Ann is now called Zoe."));
+    EXPECT_FALSE(dialog.isVisible()) << "there is no Ann to rename";
+    EXPECT_THAT(mPlayers::Names(), ElementsAre("Player1", "Zoe", "Bob"));
+}
+
+TEST_F(PlayerDialogs, TheNameDialogSaysWhatIsWrongWhileOneTypes) {
+    dlGInput dialog(QStringLiteral("Add Player"), "");
+    Open(dialog);
+    auto* name = Find<QLineEdit>(dialog, "Text1");
+    auto* fault = Find<QLabel>(dialog, "lblFault");
+    EXPECT_EQ(fault->text(), QString()) << "nothing has been typed yet";
+    const std::pair<const char*, const char*> rows[] = {
+        {" ", "blanks"},  {" a", ""},  {" a/", "character /"},
+        {"..", "folder"}, {"...", ""}, {"a\\", "character \\"},
+    };
+    for (const auto& [typed, says] : rows) {
+        name->clear();
+        QTest::keyClicks(name, QLatin1String(typed));
+        EXPECT_THAT(fault->text().toStdString(), testing::HasSubstr(says));
+        EXPECT_EQ(fault->text().isEmpty(), *says == '\0') << typed;
+        EXPECT_EQ(name->accessibleDescription(), fault->text());
+    }
+}
+
+TEST_F(PlayerDialogs, ScoreFilesWithoutAPlayerAreOffered) {
+    layer_.Files.Contents[cScore::FileName("Zoe")] = R"("2004-01-05 22:10:33","Klondike",1,2,3,4,1)";
+    layer_.Forms.Answer = true;
+    frmPlayers dialog;
+    EXPECT_THAT(layer_.Forms.Questions,
+                ElementsAre("The score file \"Zoe.sre\" with 1 record belongs to no player.\n"
+                            "Take it back as the player Zoe?"));
+    EXPECT_THAT(Rows(Find<QTreeView>(dialog, "lvPlayer")), ElementsAre("Player1", "Ann", "Bob", "Zoe"));
 }
 
 class FavouriteDialogs : public DialogTest {

@@ -1,100 +1,30 @@
 // Files and folders of the machine, over the system's calls.
-#include "window/outside/QtFiles.h"
+#include "engine/outside/DiskFiles.h"
 
 #include <cerrno>
-#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <new>
 #include <string_view>
-#include <thread>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <pwd.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "engine/outside/mDisk.h"
+
 namespace {
 
-constexpr mode_t FolderMode = 0777;  // both as far as the user's mask allows
-constexpr mode_t FileMode = 0666;
+using mDisk::Cause;
+using mDisk::Descriptor;
+using mDisk::FolderOf;
+using mDisk::SyncFolder;
 
-std::string Cause(int error) {
-    // Always English, as all messages of the program, and safe with threads.
-    const char* text = strerrordesc_np(error);
-    return text ? text : "Error " + std::to_string(error);
-}
-
-/// An open file; closed at the end of the block.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() { Close(); }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    [[nodiscard]] bool Valid() const { return number_ >= 0; }
-    [[nodiscard]] int Number() const { return number_; }
-    void Close() {
-        if (number_ >= 0) ::close(number_);
-        number_ = -1;
-    }
-
-private:
-    int number_;
-};
-
-int Open(const std::string& path, int flags) {
-    int number = -1;
-    do {
-        number = ::open(path.c_str(), flags | O_CLOEXEC, FileMode);
-    } while (number < 0 && errno == EINTR);
-    return number;
-}
-
-std::string FolderOf(const std::string& path) {
-    const auto slash = path.rfind('/');
-    if (slash == std::string::npos) return ".";
-    return slash == 0 ? "/" : path.substr(0, slash);
-}
-
-/// Brings the names in a folder to the disk. Some file systems cannot: the file itself is safe then.
-void SyncFolder(const std::string& folder) {
-    const Descriptor descriptor(Open(folder, O_RDONLY | O_DIRECTORY));
-    if (descriptor.Valid()) ::fsync(descriptor.Number());
-}
-
-/// One call; only a call that was interrupted before it wrote anything is made again.
-ssize_t WriteOnce(int descriptor, std::string_view text) {
-    ssize_t written = -1;
-    do {
-        written = ::write(descriptor, text.data(), text.size());
-    } while (written < 0 && errno == EINTR);
-    return written;
-}
-
-FileError WriteAll(int descriptor, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t written = WriteOnce(descriptor, text);
-        if (written < 0) return Cause(errno);
-        text.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return std::nullopt;
-}
-
-/// Waits for other programs that hold the file, five seconds at most.
-FileError Lock(int descriptor) {
-    constexpr auto Step = std::chrono::milliseconds(10);
-    for (int attempt = 0; attempt < 500; ++attempt) {
-        if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0) return std::nullopt;
-        // A file system without locks: O_APPEND alone keeps the lines of two programs apart.
-        if (errno != EWOULDBLOCK && errno != EINTR) return std::nullopt;
-        std::this_thread::sleep_for(Step);
-    }
-    return "Another program keeps the file locked";
-}
+constexpr int MegaBits = 20;
+constexpr mode_t FolderMode = 0777;  // as far as the user's mask allows
 
 /// What must stand before new lines so that they begin a line of their own.
 FileError EndOfTornLine(int descriptor, off_t size, std::string& end) {
@@ -109,13 +39,13 @@ FileError EndOfTornLine(int descriptor, off_t size, std::string& end) {
 
 /// Writes at the end of the file, in one piece or not at all.
 FileError AppendText(int descriptor, off_t size, std::string_view text) {
-    const ssize_t written = WriteOnce(descriptor, text);
+    const ssize_t written = mDisk::WriteOnce(descriptor, text);
     FileError fault;
     if (written < 0) {
         fault = Cause(errno);
     } else if (static_cast<std::size_t>(written) < text.size()) {
         // A short write keeps its cause to itself; the next one tells it.
-        const ssize_t more = WriteOnce(descriptor, text.substr(static_cast<std::size_t>(written)));
+        const ssize_t more = mDisk::WriteOnce(descriptor, text.substr(static_cast<std::size_t>(written)));
         fault = more < 0 ? Cause(errno) : "Only a part could be written";
     } else if (::fsync(descriptor) != 0) {
         fault = Cause(errno);
@@ -136,20 +66,12 @@ bool StillThere(const std::string& path, const struct stat& opened) {
 
 }  // namespace
 
-FileTurn::FileTurn(const std::string& path) : file_(Open(path, O_RDWR | O_CREAT)) {
-    fault_ = file_ < 0 ? Cause(errno) : Lock(file_);
-}
-
-FileTurn::~FileTurn() {
-    if (file_ >= 0) ::close(file_);
-}
-
-QtFiles::QtFiles() {
+DiskFiles::DiskFiles() {
     // A file that reaches the size limit shall give an error to report, not end the program.
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-std::string QtFiles::DataFolder() const {
+std::string DiskFiles::DataFolder() const {
     const char* data = std::getenv("XDG_DATA_HOME");
     // A relative path counts as none by the rules of that variable.
     if (data && *data == '/') {
@@ -164,12 +86,12 @@ std::string QtFiles::DataFolder() const {
     return home && *home ? std::string(home) + "/.local/share/" : std::string{};
 }
 
-bool QtFiles::Exists(const std::string& path) const {
+bool DiskFiles::Exists(const std::string& path) const {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0;
 }
 
-FileError QtFiles::MakeFolder(const std::string& path) {
+FileError DiskFiles::MakeFolder(const std::string& path) {
     if (path.empty()) return Cause(ENOENT);
     for (std::size_t slash = path.find('/', 1);; slash = path.find('/', slash + 1)) {
         const std::string folder = path.substr(0, slash);
@@ -185,28 +107,29 @@ FileError QtFiles::MakeFolder(const std::string& path) {
     }
 }
 
-FileError QtFiles::AppendLines(const std::string& path, const std::vector<std::string>& lines) {
+FileError DiskFiles::AppendLines(const std::string& path, const std::vector<std::string>& lines) {
     if (lines.empty()) return std::nullopt;
     constexpr int Attempts = 10;
     for (int attempt = 0; attempt < Attempts; ++attempt) {
-        bool created = true;
-        int number = Open(path, O_RDWR | O_APPEND | O_CREAT | O_EXCL);
-        if (number < 0 && errno == EEXIST) {
-            created = false;
-            number = Open(path, O_RDWR | O_APPEND | O_CREAT);
-        }
-        if (number < 0) return Cause(errno);
-        const Descriptor file(number);
-        if (const FileError fault = Lock(file.Number())) return fault;
+        std::optional<Descriptor> file;
         struct stat status {};
-        if (::fstat(file.Number(), &status) != 0) return Cause(errno);
-        if (!S_ISREG(status.st_mode)) return "It is not a file";
+        bool created = true;
+        FileError fault = mDisk::OpenFile(path, O_RDWR | O_APPEND | O_CREAT | O_EXCL, file, status);
+        if (fault == Cause(EEXIST)) {
+            created = false;
+            fault = mDisk::OpenFile(path, O_RDWR | O_APPEND | O_CREAT, file, status);
+        }
+        if (fault) return fault;
+        // A file system without locks: O_APPEND alone keeps the lines of two programs apart.
+        if (mDisk::Lock(file->Number()) == mDisk::Turn::Busy) return "Another program keeps the file locked";
+        if (::fstat(file->Number(), &status) != 0) return Cause(errno);
         if (!StillThere(path, status)) continue;
 
         std::string text;
-        if (const FileError fault = EndOfTornLine(file.Number(), status.st_size, text)) return fault;
+        fault = EndOfTornLine(file->Number(), status.st_size, text);
+        if (fault) return fault;
         for (const std::string& line : lines) text += line + "\r\n";
-        const FileError fault = AppendText(file.Number(), status.st_size, text);
+        fault = AppendText(file->Number(), status.st_size, text);
         if (fault && created && status.st_size == 0) ::unlink(path.c_str());
         if (!fault && created) SyncFolder(FolderOf(path));
         return fault;
@@ -214,23 +137,74 @@ FileError QtFiles::AppendLines(const std::string& path, const std::vector<std::s
     return "Another program keeps replacing the file";
 }
 
-FileError QtFiles::Read(const std::string& path, std::string& content) const {
-    const Descriptor file(Open(path, O_RDONLY));
-    if (!file.Valid()) return Cause(errno);
+FileError DiskFiles::List(const std::string& folder, std::vector<std::string>& names) const {
+    DIR* open = ::opendir(folder.c_str());
+    if (!open) return Cause(errno);
+    while (const dirent* entry = ::readdir(open)) {
+        struct stat status {};
+        if (::fstatat(::dirfd(open), entry->d_name, &status, 0) == 0 && S_ISREG(status.st_mode)) {
+            names.emplace_back(entry->d_name);
+        }
+    }
+    ::closedir(open);
+    return std::nullopt;
+}
+
+bool DiskFiles::Same(const std::string& one, const std::string& other) const {
+    struct stat first {};
+    struct stat second {};
+    return ::stat(one.c_str(), &first) == 0 && ::stat(other.c_str(), &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
+FileError DiskFiles::Protection(const std::string& path) const {
+    struct stat status {};
+    if (::stat(path.c_str(), &status) != 0) return std::nullopt;
+    if (!S_ISREG(status.st_mode)) return "It is not a file";
+    // The rights do not hold root back, and a new file takes the old one's place whatever they are: both
+    // would not be what someone meant who has taken the right to write away.
+    const bool closed = (status.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
+    const bool closedToOwner = status.st_uid == ::geteuid() && (status.st_mode & S_IWUSR) == 0;
+    if (closed || closedToOwner || ::access(path.c_str(), W_OK) != 0) return "It is write-protected";
+    return std::nullopt;
+}
+
+FileError DiskFiles::Read(const std::string& path, std::string& content) const {
+    return Read(path, content, MostBytes);
+}
+
+FileError DiskFiles::Read(const std::string& path, std::string& content, std::size_t most) {
+    std::optional<Descriptor> file;
+    struct stat status {};
+    if (FileError fault = mDisk::OpenFile(path, O_RDONLY, file, status)) return fault;
+    const auto size = static_cast<std::size_t>(status.st_size);
+    const std::string tooLarge = "It is larger than " + std::to_string(most >> MegaBits) + " MB";
+    if (size > most) return tooLarge;
     std::string text;
-    char block[65536];
-    for (;;) {
-        const ssize_t got = ::read(file.Number(), block, sizeof block);
-        if (got < 0 && errno == EINTR) continue;
-        if (got < 0) return Cause(errno);
-        if (got == 0) break;
-        text.append(block, static_cast<std::size_t>(got));
+    try {
+        // A size tells only what was there a moment ago; the files of the kernel tell none at all.
+        constexpr std::size_t Block = 65536;
+        text.resize(size + 1);
+        for (std::size_t filled = 0;;) {
+            const ssize_t got = ::read(file->Number(), text.data() + filled, text.size() - filled);
+            if (got < 0 && errno == EINTR) continue;
+            if (got < 0) return Cause(errno);
+            filled += static_cast<std::size_t>(got);
+            if (got == 0) {
+                text.resize(filled);
+                break;
+            }
+            if (filled > most) return tooLarge;
+            if (filled == text.size()) text.resize(text.size() + Block);
+        }
+    } catch (const std::bad_alloc&) {
+        return "There is not enough memory for it";
     }
     content = std::move(text);
     return std::nullopt;
 }
 
-FileError QtFiles::Replace(const std::string& path, const std::string& content) {
+FileError DiskFiles::Replace(const std::string& path, const std::string& content) {
     // Through a link, so that a file which the user keeps elsewhere is not replaced by a plain one.
     std::string target = path;
     if (char* resolved = ::realpath(path.c_str(), nullptr)) {
@@ -244,9 +218,10 @@ FileError QtFiles::Replace(const std::string& path, const std::string& content) 
     std::string name = target + ".XXXXXX";
     Descriptor file(::mkostemp(name.data(), O_CLOEXEC));
     if (!file.Valid()) return Cause(errno);
-    FileError fault = WriteAll(file.Number(), content);
+    FileError fault = mDisk::WriteAll(file.Number(), content);
     if (!fault) {
         // mkostemp makes a file for the owner only; the old file's rights, or the usual ones, count.
+        constexpr mode_t FileMode = 0666;
         mode_t mode = old.st_mode & 07777;
         if (!existed) {
             const mode_t mask = ::umask(0);
@@ -265,13 +240,13 @@ FileError QtFiles::Replace(const std::string& path, const std::string& content) 
     return std::nullopt;
 }
 
-FileError QtFiles::Remove(const std::string& path) {
+FileError DiskFiles::Remove(const std::string& path) {
     if (::unlink(path.c_str()) != 0) return Cause(errno);
     SyncFolder(FolderOf(path));
     return std::nullopt;
 }
 
-FileError QtFiles::Rename(const std::string& from, const std::string& to) {
+FileError DiskFiles::Rename(const std::string& from, const std::string& to) {
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) != 0) {
         if (errno != EINVAL && errno != ENOSYS) return Cause(errno);
         // This file system cannot rename without replacing. A second name cannot replace either.

@@ -1,32 +1,13 @@
-// Files and folders of the machine. What must survive a loss of power goes to the disk before an
-// operation returns, which Qt's own file classes do not promise; so this stands on the system's calls.
+// Files and folders of the machine. What must survive a loss of power goes to the disk before an operation
+// returns, so this stands on the system's calls.
 #pragma once
 
 #include "engine/outside/windowlayer.h"
 
-/// A turn that programs take with a file: held from the construction to the end of the object, and dropped by
-/// the system with a program that is killed. The lock lies on a file of its own, which is made where it is
-/// missing and stays: removing it would let two programs hold two files of one name.
-class FileTurn {
-public:
-    /// Waits for other programs, five seconds at most.
-    explicit FileTurn(const std::string& path);
-    ~FileTurn();
-    FileTurn(const FileTurn&) = delete;
-    FileTurn& operator=(const FileTurn&) = delete;
-
-    /// Why there is no turn; nothing where it is held.
-    [[nodiscard]] const FileError& Fault() const { return fault_; }
-
-private:
-    int file_;
-    FileError fault_;
-};
-
 /// Causes are parts of a sentence, such as "No space left on device".
-class QtFiles : public FileSystem {
+class DiskFiles : public FileSystem {
 public:
-    QtFiles();
+    DiskFiles();
 
     /// $XDG_DATA_HOME, else ~/.local/share.
     [[nodiscard]] std::string DataFolder() const override;
@@ -37,7 +18,14 @@ public:
     /// Programs that append to the same file take turns; after five seconds of waiting it is a fault.
     [[nodiscard]] FileError AppendLines(const std::string& path,
                                         const std::vector<std::string>& lines) override;
+    /// Files and links to files.
+    [[nodiscard]] FileError List(const std::string& folder, std::vector<std::string>& names) const override;
+    [[nodiscard]] bool Same(const std::string& one, const std::string& other) const override;
+    [[nodiscard]] FileError Protection(const std::string& path) const override;
+    /// More than 512 MB are too large: some nine million records.
+    static constexpr std::size_t MostBytes = std::size_t{512} << 20;
     [[nodiscard]] FileError Read(const std::string& path, std::string& content) const override;
+    [[nodiscard]] static FileError Read(const std::string& path, std::string& content, std::size_t most);
     [[nodiscard]] FileError Replace(const std::string& path, const std::string& content) override;
     /// A file that is not there is a fault.
     [[nodiscard]] FileError Remove(const std::string& path) override;
