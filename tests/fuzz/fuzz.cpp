@@ -3,7 +3,11 @@
 #include <cstdint>
 #include <string_view>
 
+#ifdef HOME_TARGET
+#include "fuzz/HomeTargets.h"
+#else
 #include "fuzz/Targets.h"
+#endif
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     mFuzz::TARGET(std::string_view(reinterpret_cast<const char*>(data), size));

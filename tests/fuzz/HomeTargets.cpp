@@ -1,0 +1,231 @@
+// The targets on a real disk.
+#include "fuzz/HomeTargets.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <QSettings>
+#include <QString>
+
+#include "engine/commands/mGen.h"
+#include "engine/commands/mLoad.h"
+#include "engine/outside/DiskFiles.h"
+#include "engine/outside/memorylayer.h"
+#include "engine/records/PlayerList.h"
+#include "engine/records/cScore.h"
+#include "engine/records/mFavourites.h"
+#include "engine/records/mStrayFiles.h"
+#include "engine/state/cData.h"
+#include "engine/state/mPlayerName.h"
+#include "window/outside/QtSettings.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* Application = "Tarnival 2004 11.0";
+
+void Expect(bool holds, const char* what) {
+    if (!holds) throw std::logic_error(what);
+}
+
+/// A home of its own for every input, away from the user's.
+class ScratchHome {
+public:
+    ScratchHome() {
+        if (!::mkdtemp(folder_.data())) throw std::runtime_error("no folder");
+        const char* data = std::getenv("XDG_DATA_HOME");
+        if (data) before_ = data;
+        ::setenv("XDG_DATA_HOME", folder_.c_str(), 1);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(folder_));
+        fs::create_directories(fs::path(SettingsFile()).parent_path());
+        fs::create_directories(Records());
+    }
+    ~ScratchHome() {
+        ::setenv("XDG_DATA_HOME", before_.c_str(), 1);
+        std::error_code ignored;
+        fs::remove_all(folder_, ignored);
+    }
+    ScratchHome(const ScratchHome&) = delete;
+    ScratchHome& operator=(const ScratchHome&) = delete;
+
+    [[nodiscard]] const std::string& Folder() const { return folder_; }
+    [[nodiscard]] std::string Records() const { return folder_ + "/Kelmor/" + Application + '/'; }
+    [[nodiscard]] static std::string SettingsFile() { return QtSettings::FileName(Application); }
+
+private:
+    std::string folder_ = (fs::temp_directory_path() / "tarnival-fuzz-XXXXXX").string();
+    std::string before_;
+};
+
+/// The program over that home, without windows.
+class Running {
+public:
+    Running() {
+        settings_.SetReport([this](const std::string& text) { outside_.Forms.Inform(text); });
+        outside_.Forms.Answer = true;
+        mLoad::Main({outside_.Stage, settings_, files_, outside_.Calendar, outside_.Sounds, outside_.Forms,
+                     outside_.Help});
+        mGen::InitApp();
+    }
+    ~Running() {
+        outside_.Forms.Answer = false;  // nothing is tried again and again
+        mLoad::UnloadMain();
+    }
+    Running(const Running&) = delete;
+    Running& operator=(const Running&) = delete;
+
+    [[nodiscard]] MemoryForms& Forms() { return outside_.Forms; }
+
+private:
+    MemoryLayer outside_;
+    QtSettings settings_;
+    DiskFiles files_;
+};
+
+void ExpectListInOrder() {
+    const PlayerList list = PlayerList::Read();
+    Expect(!list.Names().empty() && list.Names().size() <= PlayerList::Slots,
+           "a number of players that cannot be");
+    for (const std::string& name : list.Names()) {
+        Expect(mPlayerName::IsGood(name), "a name that is no name");
+        Expect(std::count(list.Names().begin(), list.Names().end(), name) == 1, "a player twice");
+    }
+    Expect(list.Has(list.Current()), "the selected player is in no slot");
+}
+
+std::string Content(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void Put(const std::string& path, std::string_view bytes) { std::ofstream(path, std::ios::binary) << bytes; }
+
+void PutSocket(const std::string& path) {
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (path.size() >= sizeof address.sun_path) return;
+    std::strcpy(address.sun_path, path.c_str());
+    const int socket = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    (void)::bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof address);
+    ::close(socket);
+}
+
+void PutAnything(const std::string& path, char kind, std::string_view bytes) {
+    std::error_code ignored;
+    switch (static_cast<unsigned char>(kind) % 9) {
+        case 0:
+            (void)::mkfifo(path.c_str(), 0600);
+            break;
+        case 1:
+            fs::create_directory(path, ignored);
+            break;
+        case 2:
+            PutSocket(path);
+            break;
+        case 3:
+            fs::create_symlink("/dev/zero", path, ignored);
+            break;
+        case 4:
+            fs::create_symlink("nowhere/at/all", path, ignored);
+            break;
+        case 5:
+            fs::create_symlink(fs::path(path).filename(), path, ignored);
+            break;
+        case 6:
+            Put(path, "");
+            (void)::truncate(path.c_str(), off_t{1} << 40);
+            break;
+        case 7:
+            Put(path, bytes);
+            (void)::chmod(path.c_str(), 0);
+            break;
+        default:
+            Put(path, bytes);
+    }
+}
+
+}  // namespace
+
+namespace mFuzz {
+
+void SettingsFile(std::string_view bytes) {
+    const ScratchHome home;
+    Put(ScratchHome::SettingsFile(), bytes);
+    std::map<std::string, std::string> before;
+    {
+        const QtSettings store;
+        before = store.GetSection(Application, "Other");
+    }
+    const Running program;
+    ExpectListInOrder();
+    Expect(gData->GetGameID(gData->LastGName()) != 0, "the last game is in no family");
+    for (const NumberSetting& setting :
+         {Setting::Autoplay, Setting::DeckIndex, Setting::BGIndex, Setting::Zoom}) {
+        const int value = gData->Get(setting);
+        Expect(value >= setting.Low && value <= setting.High, "a setting lies outside its range");
+    }
+    mGen::StartGame(gData->LastGName(), 1.0);
+    if (gData->Figures.GameRunning) mGen::CloseGame(0);
+    gScore->OpenAllScore();
+    Expect(gScore->ScoreTop() == 1, "the record is in no view");
+    for (const auto& entry : fs::recursive_directory_iterator(home.Folder())) {
+        if (entry.path().extension() != cScore::Ending) continue;
+        Expect(entry.path().parent_path() == fs::path(home.Records()).parent_path(),
+               "a record outside the folder");
+    }
+    gData->Set(Setting::DeckIndex, 502);
+    const QtSettings store;
+    Expect(store.GetSetting(Application, "Data", "DeckIndex", "") == "502", "a setting is not on the disk");
+    const bool aside = fs::exists(ScratchHome::SettingsFile() + ".damaged-1");
+    Expect(!aside || Content(ScratchHome::SettingsFile() + ".damaged-1") == bytes,
+           "a file set aside has changed");
+    Expect(aside || store.GetSection(Application, "Other") == before, "what others have written is gone");
+}
+
+void Home(std::string_view bytes) {
+    const ScratchHome home;
+    const std::string records = home.Records();
+    const std::string settings = ScratchHome::SettingsFile();
+    const std::string paths[] = {records + "Player1.sre", records + "Bea.sre",
+                                 records + "fav.dat",     records + " .sre",
+                                 records + "\xFF.sre",    settings,
+                                 settings + ".lock",      settings + ".new",
+                                 settings + ".damaged-1", home.Folder() + "/export.txt"};
+    for (std::size_t i = 0; i + 1 < bytes.size() && i < 2 * std::size(paths); i += 2) {
+        const std::string& path = paths[static_cast<unsigned char>(bytes[i]) % std::size(paths)];
+        std::error_code ignored;
+        if (fs::symlink_status(path, ignored).type() != fs::file_type::not_found) continue;
+        PutAnything(path, bytes[i + 1], bytes.substr(i));
+    }
+    Running program;
+    ExpectListInOrder();
+    mStrayFiles::Offer();
+    ExpectListInOrder();
+    mGen::StartGame("Klondike", 1.0);
+    if (gData->Figures.GameRunning) mGen::CloseGame(0);
+    gScore->OpenAllScore();
+    gScore->ReportUnread();
+    (void)gScore->AddFav("Klondike", 2.0);
+    mFavourites::Open();
+    for (const std::string& path : paths) {
+        program.Forms().FirstSaveFiles = {path};
+        gScore->ExportStat();
+    }
+    gScore->ClearStat();
+    gScore->ClearFav();
+}
+
+}  // namespace mFuzz

@@ -1,0 +1,14 @@
+// The fuzzer's kept inputs for what lies on a real disk.
+#include <gtest/gtest.h>
+
+#include "fuzz/HomeTargets.h"
+#include "fuzz/Replay.h"
+
+namespace {
+
+TEST(HomeCorpora, EveryKeptInputIsTakenWellWholeAndDamaged) {
+    constexpr int Rounds = 6;
+    for (const mFuzz::Target& target : mFuzz::HomeTargets) mFuzz::Replay(target, TARNIVAL_CORPORA, Rounds);
+}
+
+}  // namespace
