@@ -2,6 +2,7 @@
 #include "fuzz/HomeTargets.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -15,9 +16,6 @@
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
-
-#include <QSettings>
-#include <QString>
 
 #include "engine/commands/mGen.h"
 #include "engine/commands/mLoad.h"
@@ -46,15 +44,15 @@ class ScratchHome {
 public:
     ScratchHome() {
         if (!::mkdtemp(folder_.data())) throw std::runtime_error("no folder");
-        const char* data = std::getenv("XDG_DATA_HOME");
-        if (data) before_ = data;
-        ::setenv("XDG_DATA_HOME", folder_.c_str(), 1);
-        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QString::fromStdString(folder_));
+        for (Variable& variable : variables_) {
+            if (const char* value = std::getenv(variable.Name)) variable.Before = value;
+            ::setenv(variable.Name, folder_.c_str(), 1);
+        }
         fs::create_directories(fs::path(SettingsFile()).parent_path());
         fs::create_directories(Records());
     }
     ~ScratchHome() {
-        ::setenv("XDG_DATA_HOME", before_.c_str(), 1);
+        for (const Variable& variable : variables_) ::setenv(variable.Name, variable.Before.c_str(), 1);
         std::error_code ignored;
         fs::remove_all(folder_, ignored);
     }
@@ -67,7 +65,11 @@ public:
 
 private:
     std::string folder_ = (fs::temp_directory_path() / "tarnival-fuzz-XXXXXX").string();
-    std::string before_;
+    struct Variable {
+        const char* Name;
+        std::string Before;
+    };
+    std::array<Variable, 2> variables_{{{"XDG_DATA_HOME", {}}, {"XDG_CONFIG_HOME", {}}}};
 };
 
 /// The program over that home, without windows.

@@ -80,8 +80,9 @@ FileError WriteAll(int descriptor, std::string_view text) {
 }
 
 Turn Lock(int descriptor) {
-    constexpr auto Step = std::chrono::milliseconds(5);
-    constexpr int Attempts = 1000;
+    // Often: another program may leave only short gaps.
+    constexpr auto Step = std::chrono::milliseconds(1);
+    constexpr int Attempts = 5000;
     for (int attempt = 0; attempt < Attempts; ++attempt) {
         if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0) return Turn::Taken;
         if (errno != EWOULDBLOCK && errno != EINTR) return Turn::NoLocks;

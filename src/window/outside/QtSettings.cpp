@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QStringList>
 #include <QTemporaryFile>
 #include <QVariant>
@@ -62,9 +63,9 @@ std::int64_t Nanoseconds(const std::timespec& time) {
 }  // namespace
 
 std::string QtSettings::FileName(const std::string& application) {
-    const QSettings settings(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("Kelmor"),
-                             QString::fromStdString(application));
-    return settings.fileName().toStdString();
+    // Where QSettings keeps such a file. It would tell itself, but only after it has read whatever is there.
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return folder.toStdString() + "/Kelmor/" + application + ".conf";
 }
 
 void QtSettings::SetReport(Report report) {
