@@ -47,10 +47,6 @@ void LetterExtensions(const QWidget* window) {
 
 int Pixels(int twips) { return static_cast<int>(std::lround(twips / mPictures::TwipsPerPixel)); }
 
-void SetEnabled(QWidget* window, const char* name, bool enabled) {
-    if (auto* action = window->findChild<QAction*>(QLatin1String(name))) action->setEnabled(enabled);
-}
-
 }  // namespace
 
 frmMain::frmMain() {
@@ -87,15 +83,15 @@ void frmMain::Load() {
 void frmMain::BuildTable() {
     PicMain = new QWidget(this);
     PicMain->setObjectName(QStringLiteral("PicMain"));
-    PicBack = new TableView(PicMain);
+    table_ = new TableView(PicMain);
     auto* layout = new QVBoxLayout(PicMain);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(PicBack);
+    layout->addWidget(table_);
     setCentralWidget(PicMain);
-    PicBack->setFocus();
-    zoom_ = new TableZoom(PicBack, this);
-    keys_ = new TableKeys(PicBack);
-    new TableScroll(PicBack);
+    table_->setFocus();
+    zoom_ = new TableZoom(table_, this);
+    keys_ = new TableKeys(table_);
+    new TableScroll(table_);
     state_ = new WindowState(this, zoom_);
     // The caption of a game is set when all is ready to deal it.
     connect(this, &QWidget::windowTitleChanged, zoom_, &TableZoom::NewGame);
@@ -144,20 +140,16 @@ void frmMain::FollowReplay() {
 }
 
 void frmMain::ShowStates(const mMain::CommandStates& states) {
-    const auto check = [this](const char* name, bool on) {
-        if (auto* action = findChild<QAction*>(QLatin1String(name))) action->setChecked(on);
-    };
-    check("mGame9", states.Toolbar);
-    check("mGame4", states.AutoplayChecked);
-    SetEnabled(this, "mGame4", states.AutoplayEnabled);
-    for (const char* name : {"mFile4", "mFile5", "mFav1", "mTools5"})
-        SetEnabled(this, name, states.GameRunning);
-    for (const char* name : {"mGame1", "mGame6"}) SetEnabled(this, name, states.Undo);
-    for (const char* name : {"mGame2", "mGame7"}) SetEnabled(this, name, states.Redo);
-    SetEnabled(this, "mReplay1", states.Forward);
-    SetEnabled(this, "mReplay2", states.Back);
-    SetEnabled(this, "mReplay4", states.ReplayAll);
-    SetEnabled(this, "mReplay6", states.Stop);
+    mGame9->setChecked(states.Toolbar);
+    mGame4->setChecked(states.AutoplayChecked);
+    mGame4->setEnabled(states.AutoplayEnabled);
+    for (QAction* action : {mFile4, mFile5, mFav1, mTools5}) action->setEnabled(states.GameRunning);
+    for (QAction* action : {mGame1, mGame6}) action->setEnabled(states.Undo);
+    for (QAction* action : {mGame2, mGame7}) action->setEnabled(states.Redo);
+    mReplay1->setEnabled(states.Forward);
+    mReplay2->setEnabled(states.Back);
+    mReplay4->setEnabled(states.ReplayAll);
+    mReplay6->setEnabled(states.Stop);
 }
 
 void frmMain::TickStatus() {

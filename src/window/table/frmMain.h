@@ -27,7 +27,7 @@ public:
     /// Builds what a game needs and starts the timers. gData exists already.
     void Load();
 
-    [[nodiscard]] TableView* Table() const { return PicBack; }
+    [[nodiscard]] TableView* Table() const { return table_; }
     /// Says a sentence to those who listen.
     void Announce(const std::string& text);
     /// Shows the recent games in the menu; an empty name is a free slot.
@@ -53,12 +53,18 @@ private:
 
     QToolBar* Toolbar1 = nullptr;
     QWidget* PicMain = nullptr;
-    TableView* PicBack = nullptr;
+    TableView* table_ = nullptr;
     StatusStrip* status_ = nullptr;
     SpokenText* spoken_ = nullptr;
     TableZoom* zoom_ = nullptr;
     TableKeys* keys_ = nullptr;
     WindowState* state_ = nullptr;
+    // Menu entries whose state changes, or that the toolbar shows as well.
+    QAction *mFile1 = nullptr, *mFile2 = nullptr, *mFile4 = nullptr, *mFile5 = nullptr;
+    QAction *mGame1 = nullptr, *mGame2 = nullptr, *mGame4 = nullptr, *mGame6 = nullptr, *mGame7 = nullptr,
+            *mGame9 = nullptr;
+    QAction *mReplay1 = nullptr, *mReplay2 = nullptr, *mReplay4 = nullptr, *mReplay6 = nullptr;
+    QAction *mFav1 = nullptr, *mStat1 = nullptr, *mTools5 = nullptr, *mHelp1 = nullptr;
     std::array<QAction*, 6> mRecent{};  // 1 to 5
     QTimer tmrMain{this}, tmrTime{this}, tmrForward{this}, tmrBackward{this};
     std::vector<std::string> recent_;

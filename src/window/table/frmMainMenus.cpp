@@ -43,22 +43,17 @@ void frmMain::BuildMenus() {
         built->setObjectName(QLatin1String(name));
         return built;
     };
-    // An entry without a command belongs to a part of the program that is still to come: it shows
-    // where it will be, and is disabled.
     const auto entry = [this](QMenu* in, const char* name, const char* caption, const char* key,
                               Command command, bool checkable = false) {
         auto* action = new QAction(QLatin1String(caption), this);
         action->setObjectName(QLatin1String(name));
         action->setShortcut(QKeySequence(QLatin1String(key)));
         action->setCheckable(checkable);
-        action->setEnabled(static_cast<bool>(command));
-        if (command) {
-            connect(action, &QAction::triggered, this, [this, command] {
-                command();
-                TickMain();
-                FollowReplay();
-            });
-        }
+        connect(action, &QAction::triggered, this, [this, command] {
+            command();
+            TickMain();
+            FollowReplay();
+        });
         in->addAction(action);
         return action;
     };
@@ -71,11 +66,11 @@ void frmMain::BuildMenus() {
     };
 
     QMenu* file = menu("mnuFile", "&File");
-    entry(file, "mFile1", "&New Game", "F2", mMain::NewGame);
-    entry(file, "mFile2", "&Select Game", "F3", afterDeal([this] { SelectGame(); }));
+    mFile1 = entry(file, "mFile1", "&New Game", "F2", mMain::NewGame);
+    mFile2 = entry(file, "mFile2", "&Select Game", "F3", afterDeal([this] { SelectGame(); }));
     file->addSeparator();
-    entry(file, "mFile4", "&Restart Game", "Ctrl+F2", mMain::RestartGame);
-    entry(file, "mFile5", "&Close Game", "F12", mMain::CloseGame);
+    mFile4 = entry(file, "mFile4", "&Restart Game", "Ctrl+F2", mMain::RestartGame);
+    mFile5 = entry(file, "mFile5", "&Close Game", "F12", mMain::CloseGame);
     file->addSeparator();
     entry(file, "mFile7", "Select a Number", "Ctrl+F12", afterDeal([this] { frmChoose(this).exec(); }));
     file->addSeparator();
@@ -95,33 +90,36 @@ void frmMain::BuildMenus() {
     });
 
     QMenu* game = menu("mnuGame", "&Game");
-    entry(game, "mGame1", "&Undo", "Ctrl+Z", [=] { mMain::Undo(speed(Setting::UndoSpeed)); });
-    entry(game, "mGame2", "&Redo", "Ctrl+X", [=] { mMain::Redo(speed(Setting::UndoSpeed)); });
+    mGame1 = entry(game, "mGame1", "&Undo", "Ctrl+Z", [=] { mMain::Undo(speed(Setting::UndoSpeed)); });
+    mGame2 = entry(game, "mGame2", "&Redo", "Ctrl+X", [=] { mMain::Redo(speed(Setting::UndoSpeed)); });
     game->addSeparator();
-    entry(game, "mGame4", "Autoplay", "F7", mMain::FlipAutoplay, true);
+    mGame4 = entry(game, "mGame4", "Autoplay", "F7", mMain::FlipAutoplay, true);
     game->addSeparator();
-    entry(game, "mGame6", "U&ndo All", "Ctrl+C", [=] { mMain::UndoAll(speed(Setting::UndoallSpeed)); });
-    entry(game, "mGame7", "R&edo All", "Ctrl+V", [=] { mMain::RedoAll(speed(Setting::UndoallSpeed)); });
+    mGame6 =
+        entry(game, "mGame6", "U&ndo All", "Ctrl+C", [=] { mMain::UndoAll(speed(Setting::UndoallSpeed)); });
+    mGame7 =
+        entry(game, "mGame7", "R&edo All", "Ctrl+V", [=] { mMain::RedoAll(speed(Setting::UndoallSpeed)); });
     game->addSeparator();
-    entry(game, "mGame9", "View Toolbar", "", mMain::FlipToolbar, true);
+    mGame9 = entry(game, "mGame9", "View Toolbar", "", mMain::FlipToolbar, true);
 
     QMenu* replay = menu("mnuReplay", "&Replay");
-    entry(replay, "mReplay1", "&Forward", "Shift+F1", mMain::ReplayForward);
-    entry(replay, "mReplay2", "&Back", "Shift+F2", mMain::ReplayBackward);
+    mReplay1 = entry(replay, "mReplay1", "&Forward", "Shift+F1", mMain::ReplayForward);
+    mReplay2 = entry(replay, "mReplay2", "&Back", "Shift+F2", mMain::ReplayBackward);
     replay->addSeparator();
-    entry(replay, "mReplay4", "Replay &All", "", mMain::ReplayAll);
+    mReplay4 = entry(replay, "mReplay4", "Replay &All", "", mMain::ReplayAll);
     replay->addSeparator();
-    entry(replay, "mReplay6", "Sto&p", "", mMain::StopReplay)->setEnabled(false);
+    mReplay6 = entry(replay, "mReplay6", "Sto&p", "", mMain::StopReplay);
+    mReplay6->setEnabled(false);
 
     QMenu* favourites = menu("mnufav", "Favorites");
-    entry(favourites, "mFav1", "&Add to Favorites", "Ctrl+A", mMain::AddFavourite);
+    mFav1 = entry(favourites, "mFav1", "&Add to Favorites", "Ctrl+A", mMain::AddFavourite);
     entry(favourites, "mFav2", "&Organize Favorites", "Ctrl+F", [this] { frmOrgFav(this).exec(); });
     favourites->addSeparator();
     entry(favourites, "mFav4", "&Play from Favorites", "Ctrl+P",
           afterDeal([this] { frmPlayFav(this).exec(); }));
 
     QMenu* statistics = menu("mnustat", "Statistics");
-    entry(statistics, "mStat1", "&Game Statistics", "F4", [this] { frmGameStat(this).exec(); });
+    mStat1 = entry(statistics, "mStat1", "&Game Statistics", "F4", [this] { frmGameStat(this).exec(); });
     entry(statistics, "mStat2", "&Session Statistics", "", [this] { frmSesStat(this).exec(); });
     statistics->addSeparator();
     entry(statistics, "mStat4", "&High Scores", "F9", [this] { frmHighScore(this).exec(); });
@@ -133,10 +131,10 @@ void frmMain::BuildMenus() {
     tools->addSeparator();
     entry(tools, "mTools3", "&Players", "Ctrl+L", [this] { frmPlayers(this).exec(); });
     tools->addSeparator();
-    entry(tools, "mTools5", "&History", "Ctrl+H", [this] { frmHistory(this).exec(); });
+    mTools5 = entry(tools, "mTools5", "&History", "Ctrl+H", [this] { frmHistory(this).exec(); });
 
     QMenu* help = menu("mnuHelp", "&Help");
-    entry(help, "mHelp1", "Rules", "F1", [] {
+    mHelp1 = entry(help, "mHelp1", "Rules", "F1", [] {
         if (gData->Figures.GameRunning) {
             gData->ShowRules(gData->Figures.CurGName);
         } else {
@@ -155,28 +153,28 @@ void frmMain::BuildToolbar() {
     Toolbar1->setMovable(false);
     Toolbar1->setIconSize(QSize(IconSize, IconSize));
     struct Button {
-        const char* Action;  ///< nullptr: a gap
+        QAction* Action;  ///< nullptr: a gap
         const char* ToolTip;
         mIcons::Tool Icon;
     };
     using mIcons::Tool;
     const Button buttons[] = {
-        {"mFile1", "New Game", Tool::NewGame},
-        {"mFile2", "Select Game", Tool::SelectGame},
-        {"mFile4", "Restart Game", Tool::Restart},
+        {mFile1, "New Game", Tool::NewGame},
+        {mFile2, "Select Game", Tool::SelectGame},
+        {mFile4, "Restart Game", Tool::Restart},
         {nullptr, nullptr, Tool::Help},
-        {"mGame4", "Autoplay", Tool::Autoplay},
+        {mGame4, "Autoplay", Tool::Autoplay},
         {nullptr, nullptr, Tool::Help},
-        {"mGame1", "Undo", Tool::Undo},
-        {"mGame2", "Redo", Tool::Redo},
+        {mGame1, "Undo", Tool::Undo},
+        {mGame2, "Redo", Tool::Redo},
         {nullptr, nullptr, Tool::Help},
-        {"mReplay2", "Replay Back", Tool::Back},
-        {"mReplay6", "Replay Stop", Tool::Stop},
-        {"mReplay1", "Replay Forward", Tool::Forward},
+        {mReplay2, "Replay Back", Tool::Back},
+        {mReplay6, "Replay Stop", Tool::Stop},
+        {mReplay1, "Replay Forward", Tool::Forward},
         {nullptr, nullptr, Tool::Help},
-        {"mStat1", "Statistics", Tool::Statistics},
+        {mStat1, "Statistics", Tool::Statistics},
         {nullptr, nullptr, Tool::Help},
-        {"mHelp1", "Help", Tool::Help},
+        {mHelp1, "Help", Tool::Help},
     };
     int index = 0;
     for (const Button& button : buttons) {
@@ -186,7 +184,7 @@ void frmMain::BuildToolbar() {
             continue;
         }
         // The button is the menu entry's own action: one place decides whether it is enabled.
-        auto* action = findChild<QAction*>(QLatin1String(button.Action));
+        QAction* action = button.Action;
         action->setIcon(mIcons::Toolbar(button.Icon));
         action->setToolTip(QLatin1String(button.ToolTip));
         action->setIconVisibleInMenu(false);
