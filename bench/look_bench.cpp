@@ -9,11 +9,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "engine/commands/mAssets.h"
 #include "engine/commands/mCustomize.h"
 #include "engine/commands/mGen.h"
 #include "engine/commands/mLoad.h"
 #include "engine/outside/memorylayer.h"
+#include "engine/state/mAssets.h"
 #include "mFigures.h"
 #include "window/look/mPictures.h"
 #include "window/outside/QtSettings.h"
@@ -81,11 +81,11 @@ void MeasureChanges(TableView& table) {
     Print("the first OK, which writes every setting",
           Milliseconds([] { mCustomize::Confirm(mCustomize::Stored()); }), 100);
     Print("a new background, the longest of all",
-          LongestChange(table, mAssets::BackgroundGroups(),
+          LongestChange(table, mAssets::Backgrounds,
                         [](mCustomize::Choice& choice, int number) { choice.Background = number; }),
           100);
     Print("a new deck, the longest of all",
-          LongestChange(table, mAssets::DeckGroups(),
+          LongestChange(table, mAssets::Decks,
                         [](mCustomize::Choice& choice, int number) { choice.Deck = number; }),
           100);
 }

@@ -37,7 +37,7 @@ std::uint64_t PositionHash() {
     std::uint64_t hash = 1469598103934665603U;
     for (int Cell = 0; Cell < CellCount; ++Cell) {
         std::uint64_t sum = 0;
-        for (int pile = 0; pile < std::max(gGames->Piles(Cell), Cell == Goal ? 8 : 0); ++pile) {
+        for (int pile = 0; pile < std::max(gGames->Piles(Cell), Cell == Goal ? FoundationPiles : 0); ++pile) {
             std::uint64_t pileHash = 14695981039346656037U;
             for (int Pos = 0; Pos <= gArray->GetTop(Cell, pile); ++Pos) {
                 const CardRecord& card = PicBack.PicCards(gArray->GetPicID(Cell, pile, Pos));

@@ -40,7 +40,6 @@ Json PileJson(int Cell, int Pile) {
 }
 
 Json CellsJson() {
-    constexpr int FoundationPiles = 8;  // a complete run may lie beyond the piles that the game shows
     Json cells = Json::array();
     for (int Cell = 0; Cell < CellCount; ++Cell) {
         const int count = Cell == Goal ? FoundationPiles : gGames->Piles(Cell);

@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr int RankCards = 13;
-
 // How many cards come before this one on its foundation. Where foundations begin with different ranks,
 // that of the card's suit counts; where they build both ways, the nearer end.
 int StepsFromBase(const CardRecord& card) {
@@ -24,11 +22,10 @@ int StepsFromBase(const CardRecord& card) {
             if (first.Suit == card.Suit) base = first.Num;
         }
     }
-    if (gGames->GoalUpDown()) return std::min(card.Num, RankCards - 1 - card.Num);
-    const RuleCode order = gGames->Order(Goal, 0);
-    const bool down = order == RuleCode::DownSuit || order == RuleCode::DownAny ||
-                      order == RuleCode::DownAlt || order == RuleCode::DownColor;
-    return ((down ? base - card.Num : card.Num - base) + RankCards) % RankCards;
+    if (gGames->GoalUpDown()) return std::min(card.Num, RankCount - 1 - card.Num);
+    const auto demand = mOrder::DemandOf(gGames->Order(Goal, 0));
+    const bool down = demand && demand->Ranks == mOrder::Direction::Down;
+    return ((down ? base - card.Num : card.Num - base) + RankCount) % RankCount;
 }
 
 }  // namespace
@@ -52,7 +49,7 @@ PositionWorth::PositionWorth(std::mt19937& random) {
 // Cards that lie on others of which the foundations need them later than those.
 void PositionWorth::CountBuried(Counts& counts, int Cell, int pile) {
     const int top = gArray->GetTop(Cell, pile);
-    int lowest = RankCards;
+    int lowest = RankCount;
     for (int Pos = 0; Pos <= top; ++Pos) {
         const int PicID = gArray->GetPicID(Cell, pile, Pos);
         const int steps = StepsFromBase(PicBack.PicCards(PicID));

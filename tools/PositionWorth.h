@@ -6,7 +6,7 @@
 
 class PositionWorth {
 public:
-    /// Weights around the usual ones: no single set suits 350 games, so every attempt takes its own.
+    /// Weights around the usual ones: no single set suits all games, so every attempt takes its own.
     explicit PositionWorth(std::mt19937& random);
 
     /// The worth of the position on the table; more is better.

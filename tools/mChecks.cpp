@@ -15,9 +15,6 @@ namespace mChecks {
 
 namespace {
 
-constexpr int TablePiles = 21;  // as many as the table has, whatever the game uses
-constexpr int FoundationPiles = 8;
-
 bool Fits16(int value) {
     using Limits = std::numeric_limits<short>;
     return value >= Limits::min() && value <= Limits::max();
@@ -49,11 +46,10 @@ std::string TableFault() {
     std::array<bool, MaxCards> seen{};
     int found = 0;
     for (int Cell = 0; Cell < CellCount; ++Cell) {
-        for (int Pile = 0; Pile < TablePiles; ++Pile) {
+        for (int Pile = 0; Pile < PilesOfCell; ++Pile) {
             const int top = gArray->GetTop(Cell, Pile);
             if (top >= 0 && Pile >= PilesOf(Cell)) return fmt::format("cards on pile {}/{}", Cell, Pile);
-            constexpr int FullTop = 12;
-            if (Cell == Goal && top > FullTop && gGames->GameType() != GameType::CompleteRuns) {
+            if (Cell == Goal && top > FullGoalTop && gGames->GameType() != GameType::CompleteRuns) {
                 return fmt::format("{} cards on foundation {}", top + 1, Pile);
             }
             for (int Pos = 0; Pos <= top; ++Pos) {

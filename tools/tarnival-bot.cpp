@@ -23,6 +23,7 @@
 #include "engine/commands/mLoad.h"
 #include "engine/commands/mMain.h"
 #include "engine/outside/memorylayer.h"
+#include "engine/state/RunningGame.h"
 #include "engine/state/cData.h"
 #include "mBotMoves.h"
 
@@ -127,7 +128,7 @@ int main(int argc, char** argv) {
     MemoryLayer layer;
     mLoad::Main(layer.Layer());
     mMain::Load();
-    gData->Quiet = true;
+    gRunning.Quiet = true;
     std::vector<Record> records = GamesNamed(std::max(0, argc - 2), argv + 2);
     PlayAll(records,
             std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(minutes * 60)));

@@ -94,7 +94,7 @@ void Define(const TestGame& game, double number) {
     mCards::HideAll();
     gArray->Init(number);
     mPlay::AssignFaces();
-    gTrans = std::make_unique<cTrans>();
+    *gTrans = {};
     gRedealCount = 0;
     gDrag = {};
     SessionFigures figures;

@@ -3,7 +3,10 @@
 
 #include <string_view>
 
+#include "engine/state/Card.h"
 #include "engine/state/codes.h"
+#include "engine/state/mCodes.h"
+#include "engine/state/mOrder.h"
 
 class cGames;
 
@@ -67,7 +70,7 @@ struct Definition {
     int ResCards = 0;
     int ResNum = ResNoDrop;
 
-    int Deck = 52;
+    int Deck = DeckCards;
     int Redeals = 0;
     bool NoAuto = false;
     int GoalDiv = 0;
@@ -87,32 +90,55 @@ namespace mDefine {
 /// Stores a game through the setters of `games`.
 void Apply(const Definition& game, cGames& games);
 
-/// Whether every code of a row stands in its list and every count within the limits of the table;
-/// asked when the program is compiled.
-constexpr bool IsSound(const Definition& game);
+/// The name of the first field whose value it cannot have: a number that is no code, or a count beyond the
+/// limits of the table; nullptr for a sound row.
+constexpr const char* FaultOf(const Definition& game) {
+    const auto within = [](int value, int low, int high) { return value >= low && value <= high; };
+    const auto order = [](RuleCode code) { return mOrder::DemandOf(code).has_value(); };
+    using mCodes::Known;
+    struct Check {
+        const char* Field;
+        bool Sound;
+    };
+    constexpr int FewestHomePiles = 3;
+    constexpr int MostRedeals = 6;
+    // clang-format off
+    const Check checks[] = {
+        {"Name", !game.Name.empty()},
+        {"HomePiles", within(game.HomePiles, FewestHomePiles, MostHomePiles)},
+        {"HomeCards", within(game.HomeCards, 0, MaxCards)},
+        {"HomeOpen", within(game.HomeOpen, 0, MaxCards)},
+        {"HomeOrder", order(game.HomeOrder)},
+        {"HomeMulti", order(game.HomeMulti)},
+        {"HomeFill", Known(game.HomeFill)},
+        {"HomePattern", Known(game.HomePattern)},
+        {"Suits", Known(game.Suits)},
+        {"GoalPiles", game.GoalPiles > 0 && FoundationPiles % game.GoalPiles == 0},
+        {"GoalCards", within(game.GoalCards, 0, FoundationPiles)},
+        {"GoalOrder", order(game.GoalOrder)},
+        {"GoalBase", Known(game.GoalBase)},
+        {"StockPress", Known(game.StockPress)},
+        {"StockMark", Known(game.StockMark)},
+        {"StockKind", Known(game.StockKind)},
+        {"ResPiles", within(game.ResPiles, 0, MostResPiles)},
+        {"ResCards", within(game.ResCards, 0, MaxCards)},
+        {"ResNum", game.ResNum == ResFreeCells || game.ResNum == ResNoDrop},
+        {"Deck", game.Deck == HalfDeck || game.Deck == DeckCards || game.Deck == TwoDecks},
+        {"Redeals", within(game.Redeals, -1, MostRedeals)},
+        {"GoalDiv", within(game.GoalDiv, 0, FoundationPiles)},
+        {"Kind", Known(game.Kind)},
+        // A foundation pass would take cards from a run that is leaving.
+        {"NoAuto", game.NoAuto || game.Kind != GameType::CompleteRuns},
+        {"Refill", Known(game.Refill)},
+        {"Redeal", Known(game.Redeal)},
+        {"MaxCards", within(game.MaxCards, 0, MaxCards)},
+        {"Places", game.Places != nullptr},
+    };
+    // clang-format on
+    for (const Check& check : checks) {
+        if (!check.Sound) return check.Field;
+    }
+    return nullptr;
+}
 
 }  // namespace mDefine
-
-constexpr bool mDefine::IsSound(const Definition& game) {
-    const auto between = [](int value, int low, int high) { return value >= low && value <= high; };
-    const auto codeKnown = [&](RuleCode code) {
-        const int n = Number(code);
-        return between(n, 0, 10) || n == 12 || between(n, 15, 19);
-    };
-    const int base = Number(game.GoalBase);
-    const int press = Number(game.StockPress);
-    return !game.Name.empty() && between(game.HomePiles, 3, 18) && between(game.HomeCards, 0, 104) &&
-           between(game.HomeOpen, 0, 104) && codeKnown(game.HomeOrder) && codeKnown(game.HomeMulti) &&
-           between(Number(game.HomeFill), 0, 4) && between(Number(game.HomePattern), 0, 18) &&
-           between(Number(game.Suits), 0, 2) &&
-           (game.GoalPiles == 1 || game.GoalPiles == 2 || game.GoalPiles == 4 || game.GoalPiles == 8) &&
-           between(game.GoalCards, 0, 8) && codeKnown(game.GoalOrder) &&
-           (base == 0 || base == 1 || base == 12 || base == 13 || base == 14 || base == 16 || base == 17) &&
-           (between(press, 0, 4) || press == 10) && between(Number(game.StockMark), 0, 2) &&
-           between(Number(game.StockKind), 0, 2) && between(game.ResPiles, 0, 10) &&
-           between(game.ResCards, 0, 104) && between(game.ResNum, 0, 1) &&
-           (game.Deck == 26 || game.Deck == 52 || game.Deck == 104) &&
-           (between(game.Redeals, -1, 3) || game.Redeals == 6) && between(game.GoalDiv, 0, 8) &&
-           between(Number(game.Kind), 0, 5) && between(Number(game.Refill), 0, 3) &&
-           between(Number(game.Redeal), 0, 1) && between(game.MaxCards, 0, 104) && game.Places != nullptr;
-}

@@ -1,28 +1,39 @@
 // The eleven families: each lists its games for the catalogue and fills in one of them by name.
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
 
 struct Definition;
 
-// ListGames adds the family to the catalogue, in the order of its table. SetGame fills gGames with the
-// game of that name and does nothing for a name of another family. Games is the table itself.
+/// What a family offers.
+struct Family {
+    void (*ListGames)();                       ///< adds it to the catalogue, in the order of its table
+    void (*SetGame)(const std::string& name);  ///< fills gGames; does nothing for a name of another family
+    std::span<const Definition> (*Games)();    ///< the table itself
+};
 
+// The one list of families. Its order numbers them, and through them the games: a new family goes to the end.
 // clang-format off
-namespace gBDozen       { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
-namespace gBeCastle     { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
-namespace gCanfield     { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
-namespace gFan          { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
-namespace gFortyThieves { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
-namespace gFourSeasons  { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
-namespace gFreecell     { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
-namespace gKlondike     { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
-namespace gSirTommy     { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
-namespace gSpider       { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
-namespace gYukon        { void ListGames(); void SetGame(const std::string& name); std::span<const Definition> Games(); }
+#define TARNIVAL_FAMILIES(USE) \
+    USE(gBDozen) USE(gBeCastle) USE(gCanfield) USE(gFan) USE(gFortyThieves) USE(gFourSeasons) \
+    USE(gFreecell) USE(gKlondike) USE(gSirTommy) USE(gSpider) USE(gYukon)
 // clang-format on
+
+#define TARNIVAL_DECLARE(family)           \
+    namespace family {                     \
+    void ListGames();                      \
+    void SetGame(const std::string& name); \
+    std::span<const Definition> Games();   \
+    }
+TARNIVAL_FAMILIES(TARNIVAL_DECLARE)
+#undef TARNIVAL_DECLARE
+
+#define TARNIVAL_ENTRY(family) Family{family::ListGames, family::SetGame, family::Games},
+inline constexpr std::array Families{TARNIVAL_FAMILIES(TARNIVAL_ENTRY)};
+#undef TARNIVAL_ENTRY
 
 namespace mFamilies {
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -55,21 +56,36 @@ struct Table {
     }
 };
 
-template <typename Games>
-constexpr bool AllSound(const Games& games) {
-    return std::all_of(games.begin(), games.end(), mDefine::IsSound);
-}
+/// The first fault of a table, as texts that a message of the compiler can show.
+struct Fault {
+    char Game[40] = {};
+    char Field[40] = {};
+
+    constexpr Fault() = default;
+    constexpr Fault(std::string_view game, std::string_view field) {
+        std::copy_n(game.begin(), std::min(game.size(), std::size(Game) - 1), Game);
+        std::copy_n(field.begin(), std::min(field.size(), std::size(Field) - 1), Field);
+    }
+};
 
 template <typename Games>
-constexpr bool NamesDiffer(const Games& games) {
+consteval Fault FirstFault(const Games& games) {
     for (auto game = games.begin(); game != games.end(); ++game) {
+        if (const char* field = mDefine::FaultOf(*game)) return {game->Name, field};
         if (std::any_of(games.begin(), game,
                         [&](const Definition& other) { return other.Name == game->Name; })) {
-            return false;
+            return {game->Name, "Name, which another row has"};
         }
     }
-    return true;
+    return {};
 }
+
+/// Every family's table asks for `Sound<FirstFault(games)>::All`.
+template <Fault First>
+struct Sound {
+    static_assert(First.Field[0] == 0, "a game, named above with the field, has a value that cannot be");
+    static constexpr bool All = true;
+};
 
 template <typename Games>
 constexpr int Originals(const Games& games) {

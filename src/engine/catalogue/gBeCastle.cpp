@@ -71,8 +71,7 @@ constexpr Table::Rows<25> rows = {{
 
 constexpr auto games = Table::Complete({}, rows);
 
-static_assert(mFamily::AllSound(games));
-static_assert(mFamily::NamesDiffer(games));
+static_assert(mFamily::Sound<mFamily::FirstFault(games)>::All);
 static_assert(mFamily::Originals(games) == 16);
 
 }  // namespace

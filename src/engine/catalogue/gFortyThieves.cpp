@@ -144,8 +144,7 @@ constexpr Table::Rows<45> rows = {{
 
 constexpr auto games = Table::Complete({}, rows);
 
-static_assert(mFamily::AllSound(games));
-static_assert(mFamily::NamesDiffer(games));
+static_assert(mFamily::Sound<mFamily::FirstFault(games)>::All);
 static_assert(mFamily::Originals(games) == 9);
 
 }  // namespace

@@ -167,8 +167,7 @@ constexpr Table::Rows<60> rows = {{
 
 constexpr auto games = Table::Complete(shared, rows);
 
-static_assert(mFamily::AllSound(games));
-static_assert(mFamily::NamesDiffer(games));
+static_assert(mFamily::Sound<mFamily::FirstFault(games)>::All);
 static_assert(mFamily::Originals(games) == 50);
 
 }  // namespace

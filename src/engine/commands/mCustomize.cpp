@@ -1,9 +1,9 @@
 // The decisions of the dialog "Customize".
 #include "engine/commands/mCustomize.h"
 
-#include "engine/commands/mAssets.h"
 #include "engine/rules/mFunc.h"
 #include "engine/state/cPlate.h"
+#include "engine/state/mAssets.h"
 
 namespace mCustomize {
 
@@ -31,13 +31,13 @@ Node Backgrounds() {
         colors.Children.push_back({color.Name, color.Id, {}});
     }
     root.Children.push_back(std::move(colors));
-    AddGroups(root, mAssets::BackgroundGroups());
+    AddGroups(root, mAssets::Backgrounds);
     return root;
 }
 
 Node Decks() {
     Node root{"Decks", 0, {}};
-    AddGroups(root, mAssets::DeckGroups());
+    AddGroups(root, mAssets::Decks);
     return root;
 }
 

@@ -13,6 +13,7 @@
 #include "engine/rules/mCards.h"
 #include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
+#include "engine/state/RunningGame.h"
 #include "engine/state/cArray.h"
 #include "engine/state/cData.h"
 #include "engine/state/cGames.h"
@@ -24,7 +25,6 @@ namespace mGen {
 
 namespace {
 
-bool dealing = false;
 int openActions = 0;
 AfterGame wanted = AfterGame::Nothing;  // what the end-of-game dialog asked for
 
@@ -79,9 +79,9 @@ void RunWanted() {
 // The flag must fall also when a deal ends in an exception.
 class DealingFlag {
 public:
-    DealingFlag() { dealing = true; }
+    DealingFlag() { gRunning.Dealing = true; }
     ~DealingFlag() {
-        dealing = false;
+        gRunning.Dealing = false;
         PicBack.SetHurried(false);
     }
     DealingFlag(const DealingFlag&) = delete;
@@ -92,7 +92,7 @@ void Deal(const GameNumber& number, const std::vector<int>* deck = nullptr) {
     gArray->Init(number);
     if (deck) gArray->SetDeck(*deck);
     mPlay::AssignFaces();
-    gTrans = std::make_unique<cTrans>();
+    *gTrans = {};
     NoteStartTime();
     mPlay::StartDeal();
 }
@@ -101,10 +101,11 @@ void Deal(const GameNumber& number, const std::vector<int>* deck = nullptr) {
 
 void InitApp() {
     const WindowLayer& layer = gData->Layer();
-    gGames = std::make_unique<cGames>();
-    gArray = std::make_unique<cArray>();
+    gRunning = {};
+    gGames = &gRunning.Games;
+    gArray = &gRunning.Array;
+    gTrans = &gRunning.Trans;
     gArray->OnMoved = AfterMove;
-    gTrans = std::make_unique<cTrans>();
     gScore = std::make_unique<cScore>();
     gData->SesStartTime = layer.Calendar.Text(layer.Calendar.Now());
     PicBack.SetStage(&layer.Stage);
@@ -121,34 +122,19 @@ void InitApp() {
         }
     }
     mPlayers::Mend();  // also makes the first player
-    // This order fixes the numbering of the catalogue.
-    gBDozen::ListGames();
-    gBeCastle::ListGames();
-    gCanfield::ListGames();
-    gFan::ListGames();
-    gFortyThieves::ListGames();
-    gFourSeasons::ListGames();
-    gFreecell::ListGames();
-    gKlondike::ListGames();
-    gSirTommy::ListGames();
-    gSpider::ListGames();
-    gYukon::ListGames();
+    for (const Family& family : Families) family.ListGames();
 }
 
 void ReleaseAll() {
-    PicBack = cPlate{};
-    gGames.reset();
-    gTrans.reset();
-    gArray.reset();
     gScore.reset();
-    gDrag = {};
-    gGoalBase = 0;
-    gRedealCount = 0;
+    gGames = nullptr;
+    gArray = nullptr;
+    gTrans = nullptr;
+    gRunning = {};
     wanted = AfterGame::Nothing;
 }
 
 void RefreshRecent() {
-    constexpr int RecentSlots = 5;
     std::vector<std::string> names;
     for (int i = 1; i <= RecentSlots; ++i) names.push_back(gData->GetRecent(i));
     gData->Layer().Forms.ShowRecent(names);
@@ -156,17 +142,7 @@ void RefreshRecent() {
 
 void SetGameRules(const std::string& name) {
     gGames->NewGameStart();
-    gFreecell::SetGame(name);
-    gKlondike::SetGame(name);
-    gSpider::SetGame(name);
-    gFortyThieves::SetGame(name);
-    gBeCastle::SetGame(name);
-    gFan::SetGame(name);
-    gBDozen::SetGame(name);
-    gCanfield::SetGame(name);
-    gYukon::SetGame(name);
-    gFourSeasons::SetGame(name);
-    gSirTommy::SetGame(name);
+    for (const Family& family : Families) family.SetGame(name);
 }
 
 std::string GameCaption() {
@@ -178,7 +154,7 @@ std::string GameCaption() {
 namespace {
 
 void Start(const std::string& name, const GameNumber& number, const std::vector<int>* deck) {
-    if (dealing || gData->GetGameID(name) == 0) return;
+    if (Dealing() || gData->GetGameID(name) == 0) return;
     const Action action;
     // Both may belong to what the steps below change, such as the current game of a restart.
     const std::string game = name;         // NOLINT(performance-unnecessary-copy-initialization)
@@ -218,10 +194,9 @@ void CloseGame(int mWon) {
 }
 
 int CardsToWin() {
-    constexpr int FullPile = 13;
     const int total = gGames->TotalCards();
     if (gGames->GameType() == GameType::CompleteRuns) return total;
-    return std::min(total, FullPile * gGames->Piles(Goal));
+    return std::min(total, RankCount * gGames->Piles(Goal));
 }
 
 void CheckWin() {
@@ -241,10 +216,10 @@ int CalcScore() {
     return Saturated16(RoundToEven(10 * gArray->TotalGoalCards() - spent));
 }
 
-bool Dealing() { return dealing; }
+bool Dealing() { return gRunning.Dealing; }
 
 void HurryDeal() {
-    if (dealing) PicBack.SetHurried(true);
+    if (Dealing()) PicBack.SetHurried(true);
 }
 
 Action::Action() : exceptions_(std::uncaught_exceptions()) { ++openActions; }
@@ -255,37 +230,13 @@ Action::~Action() noexcept(false) {
     if (openActions == 0 && wanted != AfterGame::Nothing) RunWanted();
 }
 
-struct AsideGame::Saved {
-    cGames Games = *gGames;
-    cArray Array = *gArray;
-    cTrans Trans = *gTrans;
-    cPlate Plate = PicBack;
-    SessionFigures Figures = gData->Figures;
-    DragState Drag = gDrag;
-    int GoalBase = gGoalBase;
-    int RedealCount = gRedealCount;
-    bool Quiet = gData->Quiet;
-    bool Dealing = dealing;
-};
-
-AsideGame::AsideGame() : saved_(std::make_unique<Saved>()) {
+AsideGame::AsideGame() : saved_(gRunning) {
     PicBack.SetStage(nullptr);
-    gData->Quiet = true;
-    gData->Figures.GameRunning = false;
+    gRunning.Quiet = true;
+    gRunning.Figures.GameRunning = false;
 }
 
-AsideGame::~AsideGame() {
-    *gGames = std::move(saved_->Games);
-    *gArray = std::move(saved_->Array);
-    *gTrans = std::move(saved_->Trans);
-    PicBack = saved_->Plate;
-    gData->Figures = std::move(saved_->Figures);
-    gDrag = saved_->Drag;
-    gGoalBase = saved_->GoalBase;
-    gRedealCount = saved_->RedealCount;
-    gData->Quiet = saved_->Quiet;
-    dealing = saved_->Dealing;
-}
+AsideGame::~AsideGame() { gRunning = std::move(saved_); }
 
 void AsideGame::Deal(const std::string& name, const GameNumber& number) {
     mCards::HideAll();

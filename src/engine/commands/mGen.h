@@ -1,12 +1,12 @@
 // The life of a game: from a name and a number to a dealt table, to a record and an empty table.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "engine/outside/windowlayer.h"
 #include "engine/state/GameNumber.h"
+#include "engine/state/RunningGame.h"
 
 namespace mGen {
 
@@ -54,7 +54,7 @@ private:
     int exceptions_;  // in flight when the bracket opened
 };
 
-/// The running game set aside: definition, table, cards, log and counters. While the object lives,
+/// The running game set aside. While the object lives,
 /// other deals can be computed without a trace on the screen, in the settings or in the records; its
 /// end puts the game back.
 class AsideGame {
@@ -67,8 +67,7 @@ public:
     void Deal(const std::string& name, const GameNumber& number);
 
 private:
-    struct Saved;
-    std::unique_ptr<Saved> saved_;
+    RunningGame saved_;
 };
 
 }  // namespace mGen

@@ -11,7 +11,7 @@ void Main(const WindowLayer& layer);
 void UnloadMain();
 /// Tries once more to write what could not be written yet, and again for as long as the user wants it.
 void WriteWaiting();
-/// Closes the help viewer and releases the objects.
+/// The same once more; then closes the help viewer and releases the objects.
 void Shutdown();
 
 }  // namespace mLoad

@@ -32,7 +32,6 @@ const MarkRecord* MarkOf(const PilePlace& pile) {
 /// What the mark of an empty pile says, behind a comma; empty where it says nothing. The stock's picture
 /// promises a redeal also in games that grant none: here the rule speaks.
 std::string MarkText(const PilePlace& pile, const MarkRecord* mark) {
-    constexpr int King = 12;
     if (!mark) return {};
     if (pile.Cell == Stock) return mPlay::MayRedeal() ? ", a redeal is possible" : ", no redeal";
     return mark->Picture <= King ? ", takes " + mRulesWords::ARank(mark->Picture) : "";

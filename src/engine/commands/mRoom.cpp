@@ -13,7 +13,6 @@ namespace mRoom {
 
 namespace {
 
-constexpr int Ranks = 13;
 constexpr int Growth = 6;  // cards that a tableau pile usually gains, at most
 
 // A pile that has outgrown its room gets more at once than one card needs, so that the size of the table
@@ -59,7 +58,7 @@ bool FansTowardsNext(const CellRec& home) {
 int RoomFor(int dealt) {
     const CellRec& home = gGames->Record(Home);
     if (home.Order == RuleCode::Never || home.PosWidth == 0) return std::max(dealt, 1);
-    int cards = std::max(dealt + Growth, Ranks);  // or one whole run on an empty pile
+    int cards = std::max(dealt + Growth, RankCount);  // or one whole run on an empty pile
     if (FansTowardsNext(home)) {
         const bool byPile = home.PileOrder == PileOrder::AcrossFanRight;
         const int step = byPile ? home.PileWidth : home.DivWidth;
@@ -108,7 +107,7 @@ Area OfGame(const cPlate& dealt) {
         area = area.With(CardAt(gGames->Position(Home, p, RoomFor(pile.Cards) - 1, pile.Closed)));
     }
     for (int p = 0; p < gGames->Piles(Goal); ++p) {
-        for (const int Pos : {0, 1, Ranks - 1}) {
+        for (const int Pos : {0, 1, RankCount - 1}) {
             area = area.With(CardAt(gGames->Position(Goal, p, Pos, 0)));
         }
     }

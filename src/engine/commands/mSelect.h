@@ -11,7 +11,7 @@ namespace mSelect {
 /// "Play": makes `player` the current player and starts the game under a fresh number. False where the player
 /// is no longer called so, which the user is told.
 bool Play(const ShownPlayer& player, const std::string& game);
-/// The largest number of the random range: 10^RangeIndex - 1, at least 0.
+/// The largest number that is drawn, 10^RangeIndex - 1; a typed one must lie below it.
 [[nodiscard]] double LargestNumber();
 /// "0 and 999,999".
 [[nodiscard]] std::string RangeText();

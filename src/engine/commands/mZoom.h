@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/commands/mRoom.h"
+#include "engine/state/cData.h"
 
 namespace mZoom {
 
@@ -10,8 +11,8 @@ inline constexpr int LeftShift = 20;           ///< twips: the plate's middle li
 
 // The sizes to choose from, in percent; a size between or beyond them comes from fitting a game.
 inline constexpr int ActualSize = 100;
-inline constexpr int Smallest = 50;
-inline constexpr int Largest = 300;
+inline constexpr int Smallest = Setting::SmallestZoom;
+inline constexpr int Largest = Setting::LargestZoom;
 /// The next size above or below; `percent` itself where there is none.
 [[nodiscard]] double Larger(double percent);
 [[nodiscard]] double Smaller(double percent);

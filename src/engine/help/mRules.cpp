@@ -22,11 +22,6 @@ using mRulesFacts::Respect;
 
 constexpr int IDsOfGroup = 100;  // a game's id is its group × 100 + its place in the group
 
-// In the order of the groups' numbers.
-constexpr std::array families{gBDozen::Games,       gBeCastle::Games,    gCanfield::Games, gFan::Games,
-                              gFortyThieves::Games, gFourSeasons::Games, gFreecell::Games, gKlondike::Games,
-                              gSirTommy::Games,     gSpider::Games,      gYukon::Games};
-
 struct Entry {
     int ID;
     Facts Of;
@@ -36,9 +31,10 @@ struct Entry {
 const std::vector<Entry>& Entries() {
     static const std::vector<Entry> entries = [] {
         std::vector<Entry> all;
-        for (std::size_t family = 0; family < families.size(); ++family) {
-            int id = static_cast<int>(family + 1) * IDsOfGroup;
-            for (const Definition& game : families[family]()) all.push_back({++id, Facts(game)});
+        int group = 0;
+        for (const Family& family : Families) {
+            int id = ++group * IDsOfGroup;
+            for (const Definition& game : family.Games()) all.push_back({++id, Facts(game)});
         }
         return all;
     }();

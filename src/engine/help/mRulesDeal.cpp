@@ -15,10 +15,6 @@ using mRulesFacts::Facts;
 
 namespace {
 
-constexpr int RankCards = 13;
-constexpr int OneDeck = 52;
-constexpr int TwoDecks = 104;
-
 std::vector<int> Lengths(const Facts& facts) {
     std::vector<int> lengths;
     for (const std::vector<bool>& pile : facts.Deal.Piles) lengths.push_back(static_cast<int>(pile.size()));
@@ -242,7 +238,7 @@ std::string SightClause(const Facts& facts, const Facts* other) {
 }
 
 std::string DeckClause(const Facts& facts) {
-    const std::string each = Times(facts.Game->Deck / RankCards / facts.SuitsUsed);
+    const std::string each = Times(facts.Game->Deck / RankCount / facts.SuitsUsed);
     switch (facts.SuitsUsed) {
         case 1:
             return "all cards are Hearts, each rank " + each;
@@ -263,10 +259,10 @@ Paragraphs Deck(const Facts& facts) {
         if (game.StockKind != StockType::TwoSuits) return {text};
         return {text + " The Diamonds and the Clubs stay out of the game."};
     }
-    if (game.Deck < OneDeck && game.Suits == SuitType::FourSuits) {
+    if (game.Deck < DeckCards && game.Suits == SuitType::FourSuits) {
         return {"Half a deck is used: the Hearts and the Spades, " + cards + " in all."};
     }
-    const std::string each = Times(game.Deck / RankCards / facts.SuitsUsed);
+    const std::string each = Times(game.Deck / RankCount / facts.SuitsUsed);
     if (facts.SuitsUsed == 2) {
         return {"The " + cards + " are of two suits only: each rank occurs " + each + " in Hearts and " +
                 each + " in Spades."};

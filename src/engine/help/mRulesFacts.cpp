@@ -10,7 +10,6 @@ namespace mRulesFacts {
 
 namespace {
 
-constexpr int RankCards = 13;
 constexpr int ReadableStep = 150;  // twips between two cards that leave the lower one's corner in sight
 
 // Numbers side by side, as a key.
@@ -22,7 +21,7 @@ std::string Join(Numbers... numbers) {
 }
 
 int SuitsUsedOf(const Definition& game) {
-    const int mostSuits = game.Deck < 52 ? 2 : 4;
+    const int mostSuits = game.Deck < DeckCards ? SuitCount / 2 : SuitCount;
     if (game.Suits == SuitType::OneSuit) return 1;
     return game.Suits == SuitType::TwoSuits ? mostSuits / 2 : mostSuits;
 }
@@ -186,7 +185,7 @@ Facts::Facts(const Definition& definition)
 
 int CardsToWin(const Facts& facts) {
     const int cards = facts.Game->Deck;
-    return facts.CompleteRuns ? cards : std::min(cards, RankCards * facts.Game->GoalPiles);
+    return facts.CompleteRuns ? cards : std::min(cards, RankCount * facts.Game->GoalPiles);
 }
 
 }  // namespace mRulesFacts

@@ -13,9 +13,6 @@ using mRulesFacts::Facts;
 
 namespace {
 
-constexpr int RankCards = 13;
-constexpr int King = 12;
-
 // The rank that all foundations begin with, where the numbers tell it.
 std::optional<int> BaseRank(const Definition& game) {
     switch (game.GoalBase) {
@@ -44,7 +41,7 @@ std::string OfSuits(int rank, int from, int to) {
 // The cards of one rank that the deal lays on the foundations.
 std::string PlacedOfRank(const Facts& facts, int rank) {
     const int count = facts.Deal.GoalCards;
-    const int all = facts.Game->Deck / RankCards;
+    const int all = facts.Game->Deck / RankCount;
     const std::string name{Rank(rank)};
     if (count == all) return "the " + Count(count, name);
     constexpr int Suits = 4;
@@ -56,7 +53,7 @@ std::string PlacedOfRank(const Facts& facts, int rank) {
 }
 
 std::string AcesAndKings(const Facts& facts) {
-    const int all = facts.Game->Deck / RankCards;
+    const int all = facts.Game->Deck / RankCount;
     const int aces = std::min(all, (facts.Game->GoalCards + 1) / 2);
     constexpr int Suits = 4;
     if (facts.SuitsUsed == Suits && all == Suits && aces > 0 && aces < all) {
@@ -77,7 +74,7 @@ std::string FirstCardStart(const Facts& facts) {
                "and "
                "shows on the empty foundations";
     }
-    const int all = facts.Game->Deck / RankCards;
+    const int all = facts.Game->Deck / RankCount;
     std::string text = "the first card of the pack is laid on a foundation at the deal";
     if (count == all) {
         text += ", and with it all the others of its rank, the base rank of the foundations";
@@ -112,7 +109,7 @@ std::string RunText(const Definition& game) {
 std::string RunPlaces(const Facts& facts) {
     const int piles = facts.Game->GoalPiles;
     if (piles == 1) return "all runs are gathered in one place";
-    const int runs = facts.Game->Deck / RankCards;
+    const int runs = facts.Game->Deck / RankCount;
     const int division = facts.Game->GoalDiv;
     if (division > 0 && division < runs) {
         return "there are " + Count(piles, "foundation") + ", of which each takes " +
@@ -131,7 +128,7 @@ std::string Range(int base, Way way, bool wraps) {
         return from + " to the " + std::string(Rank(last)) +
                "; the ranks would go round, but 13 cards are the end";
     }
-    const int end = (base + (way == Way::Up ? King : 1)) % RankCards;
+    const int end = (base + (way == Way::Up ? King : 1)) % RankCount;
     return from + " to the " + std::string(Rank(end)) +
            (way == Way::Up ? ", the Ace following the King" : ", the King following the Ace");
 }

@@ -12,21 +12,6 @@ using mRulesFacts::StockUse;
 
 namespace {
 
-std::string WrapText(Way way, bool wraps) {
-    switch (way) {
-        case Way::Down:
-            return wraps ? "the ranks go round, so that a King goes on an Ace" : "nothing goes on an Ace";
-        case Way::Up:
-            return wraps ? "the ranks go round, so that an Ace goes on a King" : "nothing goes on a King";
-        case Way::Either:
-            return wraps ? "the ranks go round: an Ace goes on a King, and a King on an Ace"
-                         : "Ace and King are not neighbors";
-        case Way::None:
-            break;
-    }
-    return {};
-}
-
 bool Groups(const Facts& facts) { return facts.LiftOrder != RuleCode::Never; }
 
 // Where a card may come from that fills a pile by hand from the stock only.

@@ -8,38 +8,9 @@ namespace mRulesWords {
 
 namespace {
 
+using mOrder::SuitRule;
+
 constexpr int LastInWords = 12;
-
-enum class SuitWords { None, Same, Alternate, Any, Other, Color };
-
-SuitWords SuitsOf(RuleCode code) {
-    switch (code) {
-        case RuleCode::DownSuit:
-        case RuleCode::UpSuit:
-        case RuleCode::EitherSuit:
-            return SuitWords::Same;
-        case RuleCode::DownAlt:
-        case RuleCode::UpAlt:
-        case RuleCode::EitherAlt:
-            return SuitWords::Alternate;
-        case RuleCode::DownAny:
-        case RuleCode::UpAny:
-        case RuleCode::EitherAny:
-            return SuitWords::Any;
-        case RuleCode::DownOther:
-        case RuleCode::UpOther:
-            return SuitWords::Other;
-        case RuleCode::DownColor:
-        case RuleCode::UpColor:
-        case RuleCode::EitherColor:
-            return SuitWords::Color;
-        case RuleCode::Never:
-        case RuleCode::Always:
-        case RuleCode::SameRank:
-            break;
-    }
-    return SuitWords::None;
-}
 
 }  // namespace
 
@@ -94,14 +65,13 @@ std::string Capital(std::string text) {
 }
 
 std::string_view Rank(int rank) {
-    static constexpr std::array<std::string_view, 13> names{"Ace",  "Two",   "Three", "Four", "Five",
-                                                            "Six",  "Seven", "Eight", "Nine", "Ten",
-                                                            "Jack", "Queen", "King"};
+    static constexpr std::array<std::string_view, RankCount> names{"Ace",  "Two",   "Three", "Four", "Five",
+                                                                   "Six",  "Seven", "Eight", "Nine", "Ten",
+                                                                   "Jack", "Queen", "King"};
     return names.at(static_cast<std::size_t>(rank));
 }
 
 std::string ARank(int rank) {
-    constexpr int Ace = 0;
     constexpr int Eight = 7;
     std::string text = rank == Ace || rank == Eight ? "an " : "a ";
     text += Rank(rank);
@@ -109,51 +79,29 @@ std::string ARank(int rank) {
 }
 
 std::string_view Suit(int suit) {
-    static constexpr std::array<std::string_view, 4> names{"Hearts", "Spades", "Diamonds", "Clubs"};
+    static constexpr std::array<std::string_view, SuitCount> names{"Hearts", "Spades", "Diamonds", "Clubs"};
     return names.at(static_cast<std::size_t>(suit));
 }
 
 Way WayOf(RuleCode code) {
-    switch (code) {
-        case RuleCode::DownSuit:
-        case RuleCode::DownAlt:
-        case RuleCode::DownAny:
-        case RuleCode::DownOther:
-        case RuleCode::DownColor:
-            return Way::Down;
-        case RuleCode::UpSuit:
-        case RuleCode::UpAlt:
-        case RuleCode::UpAny:
-        case RuleCode::UpColor:
-        case RuleCode::UpOther:
-            return Way::Up;
-        case RuleCode::EitherSuit:
-        case RuleCode::EitherAlt:
-        case RuleCode::EitherAny:
-        case RuleCode::EitherColor:
-            return Way::Either;
-        case RuleCode::Never:
-        case RuleCode::Always:
-        case RuleCode::SameRank:
-            break;
-    }
-    return Way::None;
+    const auto demand = mOrder::DemandOf(code);
+    if (!demand || demand->Ranks == Way::SameRank || demand->Ranks == Way::AnyRank) return Way::None;
+    return demand->Ranks;
 }
 
 std::string Suits(RuleCode code) {
-    switch (SuitsOf(code)) {
-        case SuitWords::Same:
+    if (WayOf(code) == Way::None) return {};
+    switch (mOrder::DemandOf(code)->Suits) {
+        case SuitRule::Same:
             return "in suit";
-        case SuitWords::Alternate:
+        case SuitRule::Alternate:
             return "in alternating colors";
-        case SuitWords::Any:
+        case SuitRule::Any:
             return "regardless of suit";
-        case SuitWords::Other:
+        case SuitRule::Different:
             return "in any suit but the same";
-        case SuitWords::Color:
+        case SuitRule::SameColor:
             return "in the same color";
-        case SuitWords::None:
-            break;
     }
     return {};
 }
@@ -166,6 +114,8 @@ std::string Building(RuleCode code) {
             return "up " + Suits(code);
         case Way::Either:
             return "up or down " + Suits(code);
+        case Way::SameRank:
+        case Way::AnyRank:
         case Way::None:
             break;
     }
@@ -179,18 +129,33 @@ std::string Example(RuleCode code) {
     if (way == Way::None) return {};
     std::string ranks = way == Way::Down ? "Six" : "Eight";
     if (way == Way::Either) ranks = "Six or Eight";
-    switch (SuitsOf(code)) {
-        case SuitWords::Same:
+    switch (mOrder::DemandOf(code)->Suits) {
+        case SuitRule::Same:
             return "the " + ranks + " of Hearts goes on the Seven of Hearts";
-        case SuitWords::Alternate:
+        case SuitRule::Alternate:
             return "a red " + ranks + " goes on a black Seven";
-        case SuitWords::Any:
+        case SuitRule::Any:
             return "any " + ranks + " goes on any Seven";
-        case SuitWords::Other:
+        case SuitRule::Different:
             return (way == Way::Up ? "an " : "a ") + ranks + " goes on a Seven of another suit";
-        case SuitWords::Color:
+        case SuitRule::SameColor:
             return "a red " + ranks + " goes on a red Seven";
-        case SuitWords::None:
+    }
+    return {};
+}
+
+std::string WrapText(Way way, bool wraps) {
+    switch (way) {
+        case Way::Down:
+            return wraps ? "the ranks go round, so that a King goes on an Ace" : "nothing goes on an Ace";
+        case Way::Up:
+            return wraps ? "the ranks go round, so that an Ace goes on a King" : "nothing goes on a King";
+        case Way::Either:
+            return wraps ? "the ranks go round: an Ace goes on a King, and a King on an Ace"
+                         : "Ace and King are not neighbors";
+        case Way::SameRank:
+        case Way::AnyRank:
+        case Way::None:
             break;
     }
     return {};

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "engine/state/codes.h"
+#include "engine/state/mOrder.h"
 
 namespace mRulesWords {
 
@@ -28,7 +29,7 @@ namespace mRulesWords {
 /// The name of a suit, 0 "Hearts" to 3 "Clubs".
 [[nodiscard]] std::string_view Suit(int suit);
 
-enum class Way { None, Down, Up, Either };
+using Way = mOrder::Direction;
 /// In which direction a rule code builds; None where ranks need not follow each other.
 [[nodiscard]] Way WayOf(RuleCode code);
 /// "down in suit"; the codes without a direction give a phrase as well.
@@ -37,6 +38,8 @@ enum class Way { None, Down, Up, Either };
 [[nodiscard]] std::string Suits(RuleCode code);
 /// "a red Six goes on a black Seven"; empty for the codes without a direction.
 [[nodiscard]] std::string Example(RuleCode code);
+/// What becomes of Ace and King where ranks follow each other; `wraps`: they are neighbors.
+[[nodiscard]] std::string WrapText(Way way, bool wraps);
 
 /// The text with &, < and > made safe for HTML.
 [[nodiscard]] std::string Escape(std::string_view text);

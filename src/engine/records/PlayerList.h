@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "engine/outside/windowlayer.h"
+#include "engine/state/cData.h"
 
 /// A player as somebody saw them: the name, and the version of the list that had it. Without a version it is
 /// the name of this moment.
@@ -26,7 +27,7 @@ struct ShownPlayer {
 /// Read, changed and written while the settings are this program's alone (cData::Alone).
 class PlayerList {
 public:
-    static constexpr int Slots = 20;
+    static constexpr int Slots = PlayerSlots;
 
     /// The list of this moment.
     [[nodiscard]] static PlayerList Read();

@@ -103,6 +103,7 @@ public:
     [[nodiscard]] int FavTop() const { return static_cast<int>(favourites_.size()); }
     /// 1 to FavTop; outside throws std::out_of_range.
     [[nodiscard]] const tFav& GetFav(int i) const;
+    /// The list in memory only. Dialogs read it afresh when they open, so none needs to close it.
     void CloseFav() { favourites_.clear(); }
     /// Deletes all favourites without a question; a failure is reported.
     void ClearFav();

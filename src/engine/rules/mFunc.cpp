@@ -15,8 +15,6 @@
 #include "engine/state/cPlate.h"
 #include "engine/state/mRandom.h"
 
-DragState gDrag;
-
 namespace mFunc {
 
 int CardCell(int PicID) { return PicBack.PicCards(PicID).Cell; }
@@ -112,11 +110,10 @@ bool ResAccepts(int Pile, int above) {
 }
 
 bool GoalAccepts(int PicID, int Pile, int above) {
-    constexpr int FullTop = 12;
     if (gGames->GameType() == GameType::CompleteRuns || above != 0) return false;
     const int top = gArray->GetTop(Goal, Pile);
     if (top < 0) return CardNum(PicID) == gGoalBase;
-    if (top == FullTop) return false;
+    if (top == FullGoalTop) return false;
     return OrderOK(gArray->GetPicID(Goal, Pile, top), PicID, gGames->Order(Goal, Pile),
                    gGames->AK(Goal) != 0);
 }

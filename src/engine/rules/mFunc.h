@@ -1,24 +1,15 @@
-// The rules as questions: which card may lie on which, what may be lifted, what a pile accepts.
-// Every rule is a function of the game's numbers and of the cards on the table; nothing here knows a game.
+// Questions of play: what a card's record says, which card may lie on which, what may be lifted, what a pile
+// accepts. They are answered from the game's numbers and the cards on the table; nothing here knows a game.
+// The press on a card, fresh game numbers and the texts of times and numbers stand here too.
 #pragma once
 
 #include <string>
 
+#include "engine/state/DragState.h"
 #include "engine/state/GameNumber.h"
 #include "engine/state/cGames.h"
 #include "engine/state/codes.h"
 #include "engine/state/mOrder.h"
-
-/// The drag in progress. None of it is kept across two drags, nor by Undo.
-struct DragState {
-    bool gPicked = false;  ///< a card hangs on the mouse
-    int gPickCount = 0;    ///< cards above the lifted card that go with it
-    int gDownX = 0;        ///< where in the card the press fell, twips
-    int gDownY = 0;
-    int gDownLeft = 0;  ///< the lifted card's place at the press, twips
-    int gDownTop = 0;
-};
-extern DragState gDrag;
 
 namespace mFunc {
 

@@ -10,8 +10,6 @@
 #include "engine/state/mDeal.h"
 #include "engine/state/mRandom.h"
 
-int gRedealCount = 0;
-
 namespace mPlay {
 
 namespace {

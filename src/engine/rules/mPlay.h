@@ -2,7 +2,7 @@
 #pragma once
 
 /// Redeals made in the running game; Undo does not lower it.
-extern int gRedealCount;
+extern int& gRedealCount;
 
 namespace mPlay {
 
@@ -36,7 +36,8 @@ void RedealGather();
 
 /// Complete runs leave, top cards that fit go to the foundations, emptied piles refill.
 void AutoPlayAll();
-/// Offers a card to the foundations, the lowest pile first; true when one took it.
+/// Offers a card to the foundations: it goes to the first pile that it fits on. False where there is none. A
+/// full pile of a game whose ranks go round counts as one that it fits on, and keeps refusing it.
 bool AutoPlayCard(int PicID);
 
 }  // namespace mPlay

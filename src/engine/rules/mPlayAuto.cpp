@@ -11,8 +11,6 @@ namespace mPlay {
 
 namespace {
 
-constexpr int RunCards = 13;
-
 // A move inside a pass may win the game, whose table is cleared then: the passes further out end.
 bool Running() { return gData->Figures.GameRunning; }
 
@@ -21,10 +19,10 @@ bool Running() { return gData->Figures.GameRunning; }
 // is the rank that the foundations start from: an Ace, or a King where they build down from Kings.
 bool HasCompleteRun(int Pile) {
     const int top = gArray->GetTop(Home, Pile);
-    if (top < RunCards - 1) return false;
-    const int first = gGames->GoalType() == GoalType::Kings ? 12 : 0;
+    if (top < RankCount - 1) return false;
+    const int first = gGames->GoalType() == GoalType::Kings ? King : Ace;
     if (mFunc::CardNum(gArray->GetPicID(Home, Pile, top)) != first) return false;
-    for (int i = top; i > top - (RunCards - 1); --i) {
+    for (int i = top; i > top - (RankCount - 1); --i) {
         const int A = gArray->GetPicID(Home, Pile, i);
         const int B = gArray->GetPicID(Home, Pile, i - 1);
         if (!mFunc::OrderOK(A, B, gGames->Order(Goal, 0), false)) return false;
@@ -36,7 +34,7 @@ void MoveCompleteRun(int Pile) {
     const int suitpile = mFunc::CardSuitpile(gArray->GetTopPicID(Home, Pile));
     const int destination = gGames->GoalDiv() != 0 ? suitpile % gGames->GoalDiv() : suitpile;
     gTrans->StartMulti();
-    for (int i = 0; i < RunCards; ++i) {
+    for (int i = 0; i < RankCount; ++i) {
         gArray->MoveCard(gArray->GetTopPicID(Home, Pile), Goal, destination,
                          gArray->GetTop(Goal, destination) + 1);
     }

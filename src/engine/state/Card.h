@@ -4,8 +4,12 @@
 inline constexpr int RankCount = 13;
 inline constexpr int SuitCount = 4;
 inline constexpr int DeckCards = RankCount * SuitCount;  ///< cards of one whole deck
+inline constexpr int HalfDeck = DeckCards / 2;
+inline constexpr int TwoDecks = 2 * DeckCards;
+inline constexpr int MaxCards = TwoDecks;  ///< no game has more
 inline constexpr int Ace = 0;
 inline constexpr int King = RankCount - 1;
+inline constexpr int FullGoalTop = RankCount - 1;  ///< the Pos of a full foundation pile's top card
 
 struct CardFace {
     int Suit = 0;      ///< 0 Hearts, 1 Spades, 2 Diamonds, 3 Clubs

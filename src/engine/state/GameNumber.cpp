@@ -13,7 +13,7 @@ std::optional<double> Parse(const std::string& text) {
     const auto last = text.find_last_not_of(" \t");
     const char* begin = text.data() + first;
     const char* const end = text.data() + last + 1;
-    if (*begin == '+') ++begin;
+    if (*begin == '+' && begin[1] != '-') ++begin;
     double value = 0.0;
     const auto [stop, fault] = std::from_chars(begin, end, value, std::chars_format::fixed);
     // from_chars also reads "inf" and "nan", which are texts to a player.

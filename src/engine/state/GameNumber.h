@@ -11,7 +11,7 @@ using GameNumber = std::variant<double, std::string>;
 
 namespace mGameNumber {
 
-/// The value of a text of digits with an optional sign and decimal point, blanks around it allowed;
+/// The value of a text of digits with at most one sign and a decimal point, blanks around it allowed;
 /// nothing for any other text. Independent of the locale.
 [[nodiscard]] std::optional<double> Parse(const std::string& text);
 

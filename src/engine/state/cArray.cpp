@@ -9,13 +9,11 @@
 #include "engine/state/cTrans.h"
 #include "engine/state/mDeal.h"
 
-std::unique_ptr<cArray> gArray;
-
 std::size_t cArray::PileIndex(int Cell, int Pile) {
-    if (Cell < 0 || Cell >= CellCount || Pile < 0 || Pile >= PileCount) {
+    if (Cell < 0 || Cell >= CellCount || Pile < 0 || Pile >= PilesOfCell) {
         throw std::out_of_range("cArray: no such pile");
     }
-    return static_cast<std::size_t>(Cell * PileCount + Pile);
+    return static_cast<std::size_t>(Cell * PilesOfCell + Pile);
 }
 
 std::size_t cArray::PlaceIndex(int Cell, int Pile, int Pos) const {
@@ -25,7 +23,7 @@ std::size_t cArray::PlaceIndex(int Cell, int Pile, int Pos) const {
 
 void cArray::Init(const GameNumber& GameNo) {
     totalCards_ = gGames->TotalCards();
-    const auto places = static_cast<std::size_t>(CellCount * PileCount * (totalCards_ + 1));
+    const auto places = static_cast<std::size_t>(CellCount * PilesOfCell * (totalCards_ + 1));
     posTable_.assign(places, -1);
     topTable_.fill(-1);
     randTable_ = mDeal::Shuffle(totalCards_, mGameNumber::Value(GameNo), Random);
@@ -50,7 +48,7 @@ int cArray::GetPicID(int Cell, int Pile, int Pos) const { return posTable_[Place
 
 int cArray::TotalGoalCards() const {
     int total = 0;
-    for (int pile = 0; pile < 8; ++pile) total += GetTop(Goal, pile) + 1;
+    for (int pile = 0; pile < FoundationPiles; ++pile) total += GetTop(Goal, pile) + 1;
     return total;
 }
 
@@ -64,8 +62,7 @@ int cArray::ClosedCards(int Pile) const {
 
 void cArray::MoveCard(int PicID, int DCell, int DPile, int DPos, ::tMod tMod, int Speed, int mCards,
                       int DFace, bool DisAutoMove) {
-    constexpr int FullTop = 12;  // a foundation pile is full at 13 cards
-    if (DCell == Goal && gGames->GameType() != GameType::CompleteRuns && GetTop(Goal, DPile) == FullTop)
+    if (DCell == Goal && gGames->GameType() != GameType::CompleteRuns && GetTop(Goal, DPile) == FullGoalTop)
         return;
 
     const CardRecord& card = PicBack.PicCards(PicID);
@@ -125,6 +122,12 @@ void cArray::PlaceCard(int PicID, int DCell, int DPile, int DPos, ::tMod tMod, i
     PicBack.SetLoc(PicID, DCell, DPile, DPos);
     posTable_[PlaceIndex(DCell, DPile, DPos)] = static_cast<short>(PicID);
     if (tMod == tMod::Deal) PicBack.LetEventsRun();
+}
+
+void cArray::ReduceOne(int Cell, int Pile) {
+    short& top = topTable_[PileIndex(Cell, Pile)];
+    posTable_[PlaceIndex(Cell, Pile, top)] = -1;
+    --top;
 }
 
 void cArray::AddtoWaste(int PicID) {

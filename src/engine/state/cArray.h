@@ -2,9 +2,9 @@
 #pragma once
 
 #include <array>
-#include <memory>
 #include <vector>
 
+#include "engine/state/Card.h"
 #include "engine/state/GameNumber.h"
 #include "engine/state/codes.h"
 #include "engine/state/mRandom.h"
@@ -36,6 +36,9 @@ public:
     /// the number of animation steps of the first card, 0 jumps. `DFace` 0 opens the moved cards.
     void MoveCard(int PicID, int DCell, int DPile, int DPos, ::tMod tMod = ::tMod::Play, int Speed = 1,
                   int mCards = 0, int DFace = 0, bool DisAutoMove = false);
+    /// The top card leaves the tables, its record stays as it is. An empty pile throws std::out_of_range.
+    /// For a deal that takes cards out of play; no pattern of today's games does.
+    void ReduceOne(int Cell, int Pile);
     void AddtoWaste(int PicID);
     /// Up to three cards from the stock to the waste.
     void Stock3Waste();
@@ -51,17 +54,15 @@ public:
     bool operator==(const cArray&) const = default;
 
 private:
-    static constexpr int PileCount = 21;
-
     void PlaceCard(int PicID, int DCell, int DPile, int DPos, ::tMod tMod, int Speed, int DFace);
     [[nodiscard]] std::size_t PlaceIndex(int Cell, int Pile, int Pos) const;
     [[nodiscard]] static std::size_t PileIndex(int Cell, int Pile);
 
     int totalCards_ = 0;
     std::vector<short> posTable_;  // Cell, Pile, Pos 0 to TotalCards
-    std::array<short, std::size_t{CellCount} * PileCount> topTable_{};
+    std::array<short, std::size_t{CellCount} * PilesOfCell> topTable_{};
     std::vector<short> randTable_;
 };
 
-/// The card table. Created by InitApp, released by Shutdown.
-extern std::unique_ptr<cArray> gArray;
+/// The card table; there from InitApp to Shutdown.
+extern cArray* gArray;

@@ -4,14 +4,13 @@
 #include <charconv>
 #include <stdexcept>
 
+#include "engine/state/RunningGame.h"
 #include "engine/state/mPlayerName.h"
 
 std::unique_ptr<cData> gData;
 
 namespace {
 
-constexpr int PlayerSlots = 20;
-constexpr int RecentSlots = 5;
 constexpr const char* DataSection = "Data";
 constexpr const char* UsersSection = "Users";
 constexpr const char* RecentSection = "Recent";
@@ -42,6 +41,8 @@ std::vector<SettingValue> InSection(const char* section, const std::map<std::str
 }
 
 }  // namespace
+
+cData::cData(const WindowLayer& layer) : Figures(gRunning.Figures), layer_(layer) {}
 
 void cData::InitCD(const std::string& cProdName, const std::string& cVersion, const std::string& cHelpFile) {
     prodName_ = cProdName + " " + cVersion;
@@ -200,7 +201,7 @@ void cData::ClearRecent() {
 
 void cData::PlaySound(std::string_view key) {
     constexpr int On = -1;  // the store holds a sound as -1 or 0; anything else counts as off
-    if (Quiet || (!Figures.GameRunning && key != "Start")) return;
+    if (gRunning.Quiet || (!Figures.GameRunning && key != "Start")) return;
     for (const SoundKey& sound : Sounds) {
         if (key == sound.Key && Get(sound.Setting) == On) layer_.Sounds.Play(sound.Wave);
     }

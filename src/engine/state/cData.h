@@ -10,7 +10,8 @@
 #include <vector>
 
 #include "engine/outside/windowlayer.h"
-#include "engine/state/GameNumber.h"
+#include "engine/state/SessionFigures.h"
+#include "engine/state/mAssets.h"
 
 /// One game of a family's list.
 struct GameEntry {
@@ -53,15 +54,17 @@ inline constexpr NumberSetting SoundWin      {"SoundWin",         -1,  -1,      
 inline constexpr NumberSetting ShowTime      {"ShowTime",          1,   0,        1};
 inline constexpr NumberSetting ShowScore     {"ShowScore",         1,   0,        1};
 inline constexpr NumberSetting ShowMoves     {"ShowMoves",         1,   0,        1};
-inline constexpr NumberSetting BGIndex       {"BGIndex",        1007,   1,     1025};
+inline constexpr NumberSetting BGIndex       {"BGIndex", mAssets::UsualBackground, mAssets::FirstBackground, mAssets::LastBackground};
 inline constexpr NumberSetting RangeIndex    {"RangeIndex",       15,   0,       15};
-inline constexpr NumberSetting DeckIndex     {"DeckIndex",       531, 501,      544};
+inline constexpr NumberSetting DeckIndex     {"DeckIndex", mAssets::UsualDeck, mAssets::FirstDeck, mAssets::LastDeck};
 inline constexpr NumberSetting TvIndex       {"TvIndex",           1,   0,        2};
 inline constexpr NumberSetting Fade          {"Fade",              1,   0,        1};
 inline constexpr NumberSetting FourColors    {"FourColors",        0,   0,        1};
 
 // The main window, in a section of its own: its place and size while it is not maximised, in pixels, and
 // the size of the table in it, in percent.
+inline constexpr int SmallestZoom = 50;
+inline constexpr int LargestZoom = 300;
 inline constexpr int NoPlace = -100000;  // of a window that has not been shown yet
 inline constexpr NumberSetting WindowLeft      {"Left",    NoPlace, -32768, 32767, "Window"};
 inline constexpr NumberSetting WindowTop       {"Top",     NoPlace, -32768, 32767, "Window"};
@@ -69,27 +72,18 @@ inline constexpr NumberSetting WindowWidth     {"Width",         0,    100, 3276
 inline constexpr NumberSetting WindowHeight    {"Height",        0,    100, 32767, "Window"};
 inline constexpr NumberSetting WindowMaximised {"Maximised",     0,      0,     1, "Window"};
 inline constexpr NumberSetting WindowFullScreen{"FullScreen",    0,      0,     1, "Window"};
-inline constexpr NumberSetting Zoom            {"Zoom",        100,     50,   300, "Window"};
+inline constexpr NumberSetting Zoom            {"Zoom", 100, SmallestZoom, LargestZoom, "Window"};
 inline constexpr NumberSetting FitGame         {"FitGame",       1,      0,     1, "Window"};
 }  // namespace Setting
 // clang-format on
 
-/// The figures of the running game and of this run of the program; lost at exit.
-struct SessionFigures {
-    std::string GameStartTime;  ///< as text, for display
-    Moment GameStart = 0;       ///< the same moment, for the clock
-    bool GameRunning = false;
-    std::string CurGName;
-    GameNumber CurGNo = 0.0;
-    int CurTime = 0;   ///< seconds
-    int CurMoves = 0;  ///< stays inside 16 bits
-    int CurScore = 0;  ///< stays inside 16 bits
-};
+inline constexpr int PlayerSlots = 20;
+inline constexpr int RecentSlots = 5;
 
 class cData {
 public:
     /// `layer` must outlive the object.
-    explicit cData(const WindowLayer& layer) : layer_(layer) {}
+    explicit cData(const WindowLayer& layer);
 
     [[nodiscard]] const WindowLayer& Layer() const { return layer_; }
 
@@ -97,6 +91,7 @@ public:
     void InitCD(const std::string& cProdName, const std::string& cVersion, const std::string& cHelpFile);
     [[nodiscard]] const std::string& ProdName() const { return prodName_; }
     [[nodiscard]] const std::string& Version() const { return version_; }
+    /// The name of the help file. The pages are made from the games' numbers, so no file of it is opened.
     [[nodiscard]] const std::string& HelpFile() const { return helpFile_; }
     /// Folders end with the platform's separator.
     [[nodiscard]] std::string AppCompDir() const;
@@ -127,7 +122,7 @@ public:
     void Set(const std::vector<NumberValue>& values);
     [[nodiscard]] std::string LastGName() const;
     [[nodiscard]] int TotalPlayers() const;
-    /// Slots 1 to 20; empty for a free slot, and for one whose text cannot be the name of a player.
+    /// Slots 1 to PlayerSlots; empty for a free slot, and for one whose text cannot be the name of a player.
     [[nodiscard]] std::string GetPlayer(int i) const;
     void SetPlayer(int i, const std::string& PlayerName, bool CurPl);
     [[nodiscard]] std::string CurPlayer() const;
@@ -140,7 +135,7 @@ public:
     void KeepUsers(const std::map<std::string, std::string>& values);
     /// As SettingsStore::Alone.
     [[nodiscard]] bool Alone(const std::function<void()>& step);
-    /// Slots 1 to 5, 1 the most recent; empty for a free slot.
+    /// Slots 1 to RecentSlots, 1 the most recent; empty for a free slot.
     [[nodiscard]] std::string GetRecent(int i) const;
     void SetRecent(const std::string& gName);
     [[nodiscard]] int RecentCount() const;
@@ -157,9 +152,8 @@ public:
     void ShowRules(const std::string& gName);
     void ShowContents();
 
-    SessionFigures Figures;
+    SessionFigures& Figures;  ///< they lie with the running game
     std::string SesStartTime;
-    bool Quiet = false;  ///< no sounds: a deal is computed aside
 
 private:
     struct Game {

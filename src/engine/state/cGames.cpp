@@ -7,9 +7,6 @@
 #include "engine/state/cArray.h"
 #include "engine/state/mRandom.h"
 
-std::unique_ptr<cGames> gGames;
-int gGoalBase = 0;
-
 namespace {
 
 constexpr int AreaWidth = 11900;  // the playing area that a game is centred in
@@ -27,9 +24,9 @@ int EmptyNumOf(EmptyFillType fill) {
         case EmptyFillType::FromStock:
             return -1;
         case EmptyFillType::KingOnly:
-            return 12;
+            return King;
         case EmptyFillType::AceOnly:
-            return 0;
+            return Ace;
         case EmptyFillType::Nothing:
             break;
     }

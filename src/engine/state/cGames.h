@@ -3,9 +3,9 @@
 #pragma once
 
 #include <array>
-#include <memory>
 #include <string>
 
+#include "engine/state/Card.h"
 #include "engine/state/codes.h"
 
 /// A point on the table plate, in twips.
@@ -63,7 +63,7 @@ struct WasteArgs {
     int Piles;
     int StartX, StartY;
     int PileWidth = 0;
-    int Cards = 0;
+    int Cards = 0;  ///< no game of the catalogue deals any here
     int PosWidth = 30;
 };
 
@@ -93,7 +93,7 @@ struct ResArgs {
 struct ExtArgs {
     int BaseX = 10000;
     int BaseY = 200;
-    int Cards = 52;
+    int Cards = DeckCards;
     int cRedeals = 0;
     std::string Tag = {};
     bool cDisAutoPlay = false;
@@ -196,8 +196,8 @@ private:
     bool moveKings_ = false;
 };
 
-/// The definition of the game on the table. Created by InitApp, released by Shutdown.
-extern std::unique_ptr<cGames> gGames;
+/// The definition of the game on the table; there from InitApp to Shutdown.
+extern cGames* gGames;
 
 /// The rank that an empty foundation pile accepts: set by the deal, 0 before it.
-extern int gGoalBase;
+extern int& gGoalBase;

@@ -3,11 +3,9 @@
 
 #include <stdexcept>
 
-cPlate PicBack;
-
 namespace {
 
-constexpr std::array<int, 5> MarkCounts{18, 8, 10, 1, 1};  // by MarkKind
+constexpr std::array<int, 5> MarkCounts{MostHomePiles, FoundationPiles, MostResPiles, 1, 1};  // by MarkKind
 
 std::size_t MarkIndex(MarkKind kind, int index) {
     if (index < 0 || index >= cPlate::MarkCount(kind)) throw std::out_of_range("cPlate: no such mark");

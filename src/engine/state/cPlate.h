@@ -7,12 +7,12 @@
 
 #include "engine/outside/windowlayer.h"
 #include "engine/state/Card.h"
+#include "engine/state/codes.h"
 
 inline constexpr int CardWidth = 1065;   ///< twips
 inline constexpr int CardHeight = 1440;  ///< twips
 inline constexpr int PlateWidth = 15480;
 inline constexpr int PlateHeight = 11205;
-inline constexpr int MaxCards = 104;
 
 /// One card. Closed: FaceMode 1; any other value shows the face.
 struct CardRecord : CardFace {
@@ -23,7 +23,7 @@ struct CardRecord : CardFace {
     int Left = 0;  ///< twips on the plate
     int Top = 0;
     bool Visible = false;
-    bool Selected = false;  ///< shown inverted
+    bool Selected = false;  ///< shown inverted; the view can, no rule of today asks for it
     int MainPic = 0;        ///< number of the face picture, 1 to 52; 0 none yet
     int DeckPic = 0;        ///< number of the back picture; 0 none yet
     int Order = 0;          ///< place in the front order: a higher one lies in front
@@ -33,7 +33,7 @@ struct CardRecord : CardFace {
 
 /// Marker pictures by their numbers. 0 Ace to 12 King show the rank that the pile takes.
 enum MarkPicture : int {
-    PlainMark = 13,
+    PlainMark = RankCount,
     EmptyMark = 14,
     NoRedealMark = 15,
     RedealMark = 16,
@@ -103,7 +103,7 @@ private:
     [[nodiscard]] MarkRecord& MarkAt(MarkKind kind, int index);
 
     std::array<CardRecord, MaxCards> cards_{};
-    std::array<MarkRecord, 38> marks_{};  // 18 tableau, 8 foundation, 10 reserve, waste, stock
+    std::array<MarkRecord, MostHomePiles + FoundationPiles + MostResPiles + 2> marks_{};
     int nextOrder_ = 1;
     double stepLimit_ = NoStepLimit;
     bool hurried_ = false;
@@ -111,4 +111,4 @@ private:
 };
 
 /// The plate of the one table.
-extern cPlate PicBack;
+extern cPlate& PicBack;

@@ -13,8 +13,6 @@
 #include "engine/state/cGames.h"
 #include "engine/state/cPlate.h"
 
-std::unique_ptr<cTrans> gTrans;
-
 namespace {
 
 // The move back has opened all cards of the group: those that lay closed close again, and since closed
@@ -130,7 +128,7 @@ void cTrans::RedoAll(int Speed) {
 
 std::string cTrans::ConvertCell(int i) {
     constexpr std::array<const char*, CellCount> names{"Tableau", "Stock", "Waste", "Foundation", "Reserve"};
-    return names.at(static_cast<std::size_t>(i));
+    return i >= 0 && i < CellCount ? names[static_cast<std::size_t>(i)] : "";
 }
 
 std::vector<HistoryRow> cTrans::CreateLV() const {

@@ -3,7 +3,6 @@
 
 #include <array>
 #include <bitset>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -75,4 +74,4 @@ private:
 };
 
 /// The log of the running game; a new one at every start of a game.
-extern std::unique_ptr<cTrans> gTrans;
+extern cTrans* gTrans;

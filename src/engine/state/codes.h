@@ -12,6 +12,12 @@ enum Cell : int {
 };
 inline constexpr int CellCount = 5;
 
+// The room of the table, whatever a game uses of it.
+inline constexpr int PilesOfCell = 21;     ///< places for piles in every group
+inline constexpr int MostHomePiles = 18;   ///< with a mark each
+inline constexpr int FoundationPiles = 8;  ///< a complete run may lie beyond the piles that the game shows
+inline constexpr int MostResPiles = 10;
+
 /// Which card may lie on which. "Down" means one rank lower than the card below it.
 enum class RuleCode : int {
     Never = 0,
@@ -140,7 +146,7 @@ enum class PileOrder : int {
     Cross = 4,              ///< five piles in a cross, not fanned
 };
 
-/// What an empty foundation or an empty reserve pile that takes single cards reads from ResNum.
+// What ResNum says of an empty reserve pile.
 inline constexpr int ResFreeCells = 0;  ///< a single card may be dropped on an empty reserve pile
 inline constexpr int ResNoDrop = 1;     ///< no card may be dropped on the reserve
 

@@ -136,7 +136,8 @@ Foundations DealGoal(const cGames& game, const Faces& cards, RandomSource& sourc
                 break;
         }
     } else if (game.GoalType() == GoalType::FirstCard) {
-        goal.Base = static_cast<int>(source.Next() * 12.0F);  // Ace to Queen
+        constexpr auto Choices = static_cast<float>(King);  // Ace to Queen
+        goal.Base = static_cast<int>(source.Next() * Choices);
     }
     return goal;
 }

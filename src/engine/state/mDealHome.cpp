@@ -10,8 +10,6 @@ namespace mDeal {
 
 namespace {
 
-constexpr int MostPiles = 21;
-
 // Deals from the top of the stock to the tableau, as long as there are cards.
 class Dealer {
 public:
@@ -69,7 +67,7 @@ private:
     int piles_;
     Pack& stock_;
     Steps steps_;
-    std::array<int, MostPiles> heights_{};
+    std::array<int, PilesOfCell> heights_{};
 };
 
 int YukonBase(const std::string& tag) {

@@ -1,25 +1,7 @@
-// The rule codes, each as a direction and a demand on the suits.
+// Judging two cards.
 #include "engine/state/mOrder.h"
 
 namespace mOrder {
-
-namespace {
-
-bool RankFits(int a, int b, Direction Dir, bool AK) {
-    const bool down = b == a - 1 || (AK && a == Ace && b == King);
-    const bool up = b == a + 1 || (AK && a == King && b == Ace);
-    switch (Dir) {
-        case Direction::Down:
-            return down;
-        case Direction::Up:
-            return up;
-        case Direction::Either:
-            break;
-    }
-    return down || up;
-}
-
-}  // namespace
 
 bool RankSuitOK(const CardFace& A, const CardFace& B, Direction Dir, SuitRule Rule, bool AK) {
     if (!RankFits(A.Num, B.Num, Dir, AK)) return false;
@@ -39,45 +21,8 @@ bool RankSuitOK(const CardFace& A, const CardFace& B, Direction Dir, SuitRule Ru
 }
 
 bool OrderOK(const CardFace& A, const CardFace& B, RuleCode Order, bool AK) {
-    using enum Direction;
-    const auto fits = [&](Direction Dir, SuitRule Rule) { return RankSuitOK(A, B, Dir, Rule, AK); };
-    switch (Order) {
-        case RuleCode::Never:
-            return false;
-        case RuleCode::DownSuit:
-            return fits(Down, SuitRule::Same);
-        case RuleCode::UpSuit:
-            return fits(Up, SuitRule::Same);
-        case RuleCode::EitherSuit:
-            return fits(Either, SuitRule::Same);
-        case RuleCode::DownAlt:
-            return fits(Down, SuitRule::Alternate);
-        case RuleCode::UpAlt:
-            return fits(Up, SuitRule::Alternate);
-        case RuleCode::EitherAlt:
-            return fits(Either, SuitRule::Alternate);
-        case RuleCode::DownAny:
-            return fits(Down, SuitRule::Any);
-        case RuleCode::UpAny:
-            return fits(Up, SuitRule::Any);
-        case RuleCode::Always:
-            return true;
-        case RuleCode::SameRank:
-            return A.Num == B.Num;
-        case RuleCode::EitherAny:
-            return fits(Either, SuitRule::Any);
-        case RuleCode::DownOther:
-            return fits(Down, SuitRule::Different);
-        case RuleCode::DownColor:
-            return fits(Down, SuitRule::SameColor);
-        case RuleCode::UpColor:
-            return fits(Up, SuitRule::SameColor);
-        case RuleCode::EitherColor:
-            return fits(Either, SuitRule::SameColor);
-        case RuleCode::UpOther:
-            return fits(Up, SuitRule::Different);
-    }
-    return false;
+    const std::optional<Demand> demand = DemandOf(Order);
+    return demand && RankSuitOK(A, B, demand->Ranks, demand->Suits, AK);
 }
 
 }  // namespace mOrder

@@ -11,8 +11,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "engine/commands/mAssets.h"
 #include "engine/records/cScore.h"
+#include "engine/state/mAssets.h"
 #include "window/controls/mDialog.h"
 #include "window/dialogs/LookPreview.h"
 #include "window/look/ilsIcons.h"

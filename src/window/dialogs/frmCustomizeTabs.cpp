@@ -13,7 +13,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include "engine/commands/mAssets.h"
+#include "engine/state/mAssets.h"
 #include "window/controls/SeenView.h"
 #include "window/dialogs/LookPreview.h"
 #include "window/dialogs/frmCustomize.h"

@@ -11,18 +11,15 @@
 #include <QPainter>
 
 #include "Art.h"
-#include "engine/commands/mAssets.h"
+#include "engine/state/mAssets.h"
 #include "engine/state/mRandom.h"
 
 namespace mPictures {
 
 namespace {
 
-constexpr int DefaultBack = 531;
-constexpr int LastFace = 52;
-constexpr int LastMark = 17;
-constexpr int PlainMark = 14;
-constexpr int FirstTile = 1;
+constexpr int LastFace = DeckCards;
+constexpr int LastMark = 17;  // one more than the table shows
 
 // A picture is rendered once for each size. The table, and a preview beside it, may need different ones;
 // those of a size that nobody has asked for since two others came are dropped.
@@ -113,7 +110,7 @@ void PaintTile(QPainter& painter, const QRectF& plate, const QRectF& area, int n
     const double unit =
         std::hypot(toDevice.m11(), toDevice.m12()) * plate.width() / PlateWidth * TwipsPerPixel;
     QPixmap tile = ScaledTile(number, unit);
-    if (tile.isNull()) tile = ScaledTile(FirstTile, unit);
+    if (tile.isNull()) tile = ScaledTile(mAssets::FirstBackground, unit);
     const QRectF pixels = toDevice.mapRect(area);
     const QPointF first = toDevice.map(plate.topLeft());
     painter.save();
@@ -143,11 +140,11 @@ void UseFourColors(bool on) { useFourColors = on; }
 
 QPixmap GetPic(int ind, double scale) {
     const QPixmap back = Cached(QStringLiteral("backs/%1").arg(ind), scale);
-    return back.isNull() ? Cached(QStringLiteral("backs/%1").arg(DefaultBack), scale) : back;
+    return back.isNull() ? Cached(QStringLiteral("backs/%1").arg(mAssets::UsualDeck), scale) : back;
 }
 
 QPixmap RightPic(int ind, double scale) {
-    return Cached(QStringLiteral("marks/%1").arg(ind >= 0 && ind <= LastMark ? ind : PlainMark), scale);
+    return Cached(QStringLiteral("marks/%1").arg(ind >= 0 && ind <= LastMark ? ind : EmptyMark), scale);
 }
 
 void Forget() {

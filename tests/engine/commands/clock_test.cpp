@@ -113,7 +113,8 @@ TEST(GameNumbers, ParseAndText) {
                                                    {"+3", 3},
                                                    {"999999999999999", 999999999999999.0}};
     for (const auto& [typed, value] : good) EXPECT_EQ(mGameNumber::Parse(typed), value) << typed;
-    for (const char* bad : {"", "  ", "twelve", "1,234", "12x", "1e5", "inf", "nan"}) {
+    for (const char* bad :
+         {"", "  ", "twelve", "1,234", "12x", "1e5", "inf", "nan", "+-5", "-+5", "++5", "+"}) {
         EXPECT_EQ(mGameNumber::Parse(bad), std::nullopt) << '"' << bad << '"';
     }
     EXPECT_EQ(mGameNumber::Value(std::string("x")), 0.0);

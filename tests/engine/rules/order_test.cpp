@@ -1,4 +1,6 @@
 // Which card may lie on which: every rule code, with all cards that fit on three cards.
+#include <algorithm>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -92,6 +94,16 @@ TEST(RuleCodes, WhichCardsFit) {
                 }
             }
         }
+    }
+}
+
+TEST(RuleCodes, EachHasARow) {
+    constexpr int Beyond = 100;
+    for (int code = 0; code < Beyond; ++code) {
+        if (!mOrder::DemandOf(RuleCode{code})) continue;
+        EXPECT_TRUE(std::any_of(std::begin(rows), std::end(rows),
+                                [=](const Row& row) { return Number(row.Code) == code; }))
+            << "rule code " << code << " has no row: say which cards fit on a Seven, an Ace and a King";
     }
 }
 

@@ -145,11 +145,11 @@ void WinAndGoOn(MemoryForms& forms, void (*win)(), AfterGame choice) {
     const int recorded = gScore->SesTop();
     const int finished = forms.Finished;
     const int selected = forms.SelectShown;
-    const cTrans* log = nullptr;
+    cTrans log;
     forms.Choice = choice;
     forms.OnFinish = [&] {
         // Behind the open dialog the timers go on.
-        log = gTrans.get();
+        log = *gTrans;
         EXPECT_FALSE(gData->Figures.GameRunning);
         EXPECT_EQ(gScore->SesTop(), recorded + 1);
         for (const std::string& text : mMain::TickTime()) EXPECT_EQ(text, "");
@@ -157,7 +157,7 @@ void WinAndGoOn(MemoryForms& forms, void (*win)(), AfterGame choice) {
         mMain::TickReplay();
         mMain::Undo(0);
         mMain::StockClick();
-        EXPECT_EQ(gTrans.get(), log);
+        EXPECT_TRUE(*gTrans == log);
     };
     win();
     EXPECT_EQ(forms.Finished, finished + 1);
@@ -166,7 +166,7 @@ void WinAndGoOn(MemoryForms& forms, void (*win)(), AfterGame choice) {
     EXPECT_EQ(forms.SelectShown - selected, choice == AfterGame::SelectGame ? 1 : 0);
     if (choice == AfterGame::NewGame || choice == AfterGame::RestartGame) return ExpectFreshDeal();
     EXPECT_FALSE(gData->Figures.GameRunning);
-    EXPECT_EQ(gTrans.get(), log) << "the log is kept until the next game";
+    EXPECT_TRUE(*gTrans == log) << "the log is kept until the next game";
     EXPECT_FALSE(PicBack.PicCards(0).Visible);
 }
 

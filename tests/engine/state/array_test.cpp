@@ -132,6 +132,20 @@ TEST_F(MoveCard, AutoplayFollowsPlayedMovesOnly) {
     }
 }
 
+TEST_F(MoveCard, ReduceOneTakesTheTopCardOffTheTablesAlone) {
+    mPosition::Begin({});
+    mScript::Lay("H0 5C 4H");
+    const int four = Card("4H");
+    const CardRecord before = PicBack.PicCards(four);
+    gArray->ReduceOne(Home, 0);
+    EXPECT_EQ(gArray->GetTop(Home, 0), 0);
+    EXPECT_EQ(gArray->GetPicID(Home, 0, 1), -1);
+    EXPECT_TRUE(PicBack.PicCards(four) == before);
+    gArray->ReduceOne(Home, 0);
+    EXPECT_THROW(gArray->ReduceOne(Home, 0), std::out_of_range);
+    EXPECT_EQ(gArray->GetTop(Home, 0), -1);
+}
+
 TEST_F(MoveCard, PlacesOutsideTheTables) {
     mPosition::Begin({});
     EXPECT_THROW((void)gArray->GetTopPicID(Home, 1), std::out_of_range);

@@ -72,7 +72,7 @@ TEST_F(TransactionLog, SpeedAndSound) {
         for (bool (cTrans::*step)(int) : {&cTrans::Undo, &cTrans::Redo}) {
             engine_.Layer.Stage.Steps = 0;
             engine_.Layer.Sounds.Played.clear();
-            EXPECT_TRUE((gTrans.get()->*step)(row.Speed));
+            EXPECT_TRUE((gTrans->*step)(row.Speed));
             EXPECT_EQ(engine_.Layer.Stage.Steps, row.Steps);
             EXPECT_EQ(engine_.Layer.Sounds.Played, row.Sounds);
         }
@@ -161,6 +161,8 @@ TEST_F(TransactionLog, HistoryRows) {
     EXPECT_EQ(rows[2].Style, HistoryStyle::Undone);
     EXPECT_THROW((void)gTrans->Record(0), std::out_of_range);
     EXPECT_THROW((void)gTrans->Record(4), std::out_of_range);
+    EXPECT_EQ(cTrans::ConvertCell(-1), "");
+    EXPECT_EQ(cTrans::ConvertCell(CellCount), "");
 }
 
 }  // namespace

@@ -14,9 +14,9 @@
 #include <QTreeWidget>
 
 #include "Art.h"
-#include "engine/commands/mAssets.h"
 #include "engine/records/cScore.h"
 #include "engine/state/cPlate.h"
+#include "engine/state/mAssets.h"
 #include "window/DialogTest.h"
 #include "window/dialogs/frmCustomize.h"
 

@@ -7,6 +7,7 @@
 #include <QTreeWidget>
 
 #include "engine/help/mHelpPages.h"
+#include "engine/state/cData.h"
 #include "window/DialogTest.h"
 #include "window/dialogs/frmAbout.h"
 #include "window/help/ProgramHelp.h"
@@ -72,8 +73,10 @@ TEST_F(HelpWindows, AboutNamesVersionAndLibraries) {
     const frmAbout about(nullptr);
     QString all;
     for (const auto* label : about.findChildren<QLabel*>()) all += label->text() + QLatin1Char('\n');
-    for (const char* part : {"Tarnival 2004 11.0", "350 patience games", "Qt ", "fmt"}) {
-        EXPECT_TRUE(all.contains(QLatin1String(part))) << part << " in " << all.toStdString();
+    const QString games = QStringLiteral("%1 patience games").arg(gData->TotalGames());
+    for (const QString& part :
+         {QStringLiteral("Tarnival 2004 11.0"), games, QStringLiteral("Qt "), QStringLiteral("fmt")}) {
+        EXPECT_TRUE(all.contains(part)) << part.toStdString() << " in " << all.toStdString();
     }
 }
 

@@ -112,7 +112,7 @@ TEST_F(MainWindow, CommandsAreEnabledAsTheGameStands) {
     check(&Row::Empty, "without a game");
     mGen::StartGame("Giant", 7.0);
     mMain::UndoAll(0);
-    gTrans = std::make_unique<cTrans>();  // whatever the first autoplay pass did
+    *gTrans = {};  // whatever the first autoplay pass did
     check(&Row::Dealt, "after the deal");
     mMain::MouseDown(gArray->GetTopPicID(Stock), 100, 100);
     check(&Row::Moved, "after a move");
