@@ -25,6 +25,7 @@ namespace mFunc {
 [[nodiscard]] int CardLeft(int PicID);
 [[nodiscard]] int CardTop(int PicID);
 
+// Of two cards alone; the rule codes ask the same of faces (mOrder).
 [[nodiscard]] bool SameSuit(int A, int B);
 [[nodiscard]] bool DiffSuit(int A, int B);
 [[nodiscard]] bool SameColor(int A, int B);
@@ -69,7 +70,7 @@ void TryPick(int PicID, int Cell, int Pile, int Pos);
 /// Whether the dragged card hits a place: with its centre (`Mode` false) or with any part (`Mode` true).
 [[nodiscard]] bool IsOverlap(int PicID, int Cell, int Pile, int Pos, bool Mode);
 
-/// A fresh random game number, 1 to 10^RangeIndex - 1.
+/// A fresh random game number, 1 to 10^RangeIndex - 1, and 1 where that is 0.
 [[nodiscard]] GameNumber NewGameNo();
 /// Seconds since the start of the running game, 0 when none runs or the clock was set back.
 [[nodiscard]] int ElapsedSecs();
