@@ -115,9 +115,19 @@ void Print(const Record& record, bool showMoves) {
     }
 }
 
+constexpr const char* Usage =
+    "tarnival-bot [--moves] [MINUTES [GAME ...]]\n"
+    "Plays all games, or those named, for so many minutes in all (10 where none are\n"
+    "given), and prints a line a game: its name, the deals tried, and the deal won.\n"
+    "With --moves it prints the commands of tarnival-lab that win a deal of each game.\n";
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (argc > 1 && (std::string_view(argv[1]) == "--help" || std::string_view(argv[1]) == "-h")) {
+        fmt::print("{}", Usage);
+        return 0;
+    }
     const bool showMoves = argc > 1 && std::string_view(argv[1]) == "--moves";
     if (showMoves) {
         --argc;
