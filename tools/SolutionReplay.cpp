@@ -7,6 +7,7 @@
 #include "engine/commands/mGen.h"
 #include "engine/commands/mLoad.h"
 #include "engine/commands/mMain.h"
+#include "engine/state/RunningGame.h"
 #include "engine/state/cArray.h"
 #include "engine/state/cData.h"
 #include "mBotMoves.h"
@@ -37,7 +38,7 @@ BotMove OnTable(const Solver::Move& move) {
 SolutionReplay::SolutionReplay(bool autoplay) : autoplay_(autoplay) {
     mLoad::Main(layer_.Layer());
     mMain::Load();
-    gData->Quiet = true;
+    gRunning.Quiet = true;
     gData->Set(Setting::Autoplay, autoplay ? 1 : 0);
 }
 

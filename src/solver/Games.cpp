@@ -1,8 +1,6 @@
 // Games by name, from the tables of the families.
 #include "solver/Games.h"
 
-#include <algorithm>
-
 #include "engine/catalogue/definition.h"
 #include "engine/catalogue/families.h"
 
@@ -10,20 +8,13 @@ namespace Solver {
 
 std::vector<const Definition*> AllGames() {
     std::vector<const Definition*> games;
-    for (const auto& family : {gBDozen::Games(), gBeCastle::Games(), gCanfield::Games(), gFan::Games(),
-                               gFortyThieves::Games(), gFourSeasons::Games(), gFreecell::Games(),
-                               gKlondike::Games(), gSirTommy::Games(), gSpider::Games(), gYukon::Games()}) {
-        for (const Definition& game : family) games.push_back(&game);
+    for (const Family& family : Families) {
+        for (const Definition& game : family.Games()) games.push_back(&game);
     }
     return games;
 }
 
-const Definition* FindGame(std::string_view name) {
-    const std::vector<const Definition*> games = AllGames();
-    const auto game = std::find_if(games.begin(), games.end(),
-                                   [&](const Definition* candidate) { return candidate->Name == name; });
-    return game != games.end() ? *game : nullptr;
-}
+const Definition* FindGame(std::string_view name) { return mFamilies::Find(name); }
 
 cGames NumbersOf(const Definition& game) {
     cGames numbers;

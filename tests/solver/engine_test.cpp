@@ -8,6 +8,7 @@
 
 #include "SolutionReplay.h"
 #include "engine/commands/mGen.h"
+#include "engine/state/RunningGame.h"
 #include "engine/state/cData.h"
 #include "engine/state/mDeal.h"
 #include "solver/Games.h"
@@ -69,7 +70,7 @@ std::string PlayBoth(const Definition& game, bool autoplay, int positions, std::
 
 TEST(SolverAndEngine, HaveTheSameMovesInAllGames) {
     const Engine engine;
-    gData->Quiet = true;
+    gRunning.Quiet = true;
     const int positions = Positions(15);
     std::uint32_t seed = 1;
     for (const Definition* game : Solver::AllGames()) {
