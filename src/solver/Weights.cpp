@@ -6,14 +6,15 @@
 namespace Solver {
 
 Weights::Weights(const Rules& rules) {
+    // A run that leaves takes the worth of its pairs along: its cards must be worth more at home.
     if (rules.RunsLeave) {
-        Home = 20;
-        Covering = 0;
-        Pair = 4;
-        Lifted = 6;
-        Leaving = 12;
-        Longer = 2;
-        EmptyPile = 30;
+        Home = 50;
+        Covering = -12;
+        Pair = 0;
+        Lifted = 0;
+        Leaving = 30;
+        Longer = 1;
+        EmptyPile = 60;
     }
 }
 

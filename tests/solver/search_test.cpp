@@ -204,14 +204,25 @@ TEST(SolverSearch, WinsAreWinsForTheEngine) {
 }
 
 TEST(SolverSearch, StopsAtItsLimits) {
-    Search search(Named("Simple Simon"), {});
-    const mDeal::Opening opening = mDeal::Deal(Named("Simple Simon"), 1);
-    const Result result = search.Solve(opening, {.States = 10});
+    // The moves of one position more than the limit at most.
+    constexpr std::size_t OnePosition = 200;
+    const cGames numbers = Named("Simple Simon");
+    Search search(numbers, {});
+    const Result result = search.Solve(mDeal::Deal(numbers, 1), {.States = 10});
     EXPECT_EQ(result.Answer, Answer::Unknown);
     EXPECT_GE(result.States, 10U);
-    EXPECT_LT(result.States, 200U);  // the moves of one position more at most
-    EXPECT_EQ(search.Solve(opening, {.States = 0, .MemoryMB = 1}).States / 1000,
-              1024 * 1024 / Search::BytesPerState / 1000);
+    EXPECT_LT(result.States, 10 + OnePosition);
+
+    constexpr std::size_t Most = 1024 * 1024 / Search::BytesPerState;
+    int unknown = 0;
+    for (int number = 1; number <= 10; ++number) {
+        const Result bounded = search.Solve(mDeal::Deal(numbers, number), {.States = 0, .MemoryMB = 1});
+        EXPECT_LT(bounded.States, Most + OnePosition);
+        if (bounded.Answer != Answer::Unknown) continue;
+        ++unknown;
+        EXPECT_GE(bounded.States, Most);
+    }
+    EXPECT_GT(unknown, 0);
 }
 
 }  // namespace
