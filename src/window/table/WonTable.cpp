@@ -40,6 +40,7 @@ WonTable::WonTable(QGraphicsView& view) : view_(&view) {
     }
     std::sort(foundations_.begin(), foundations_.end(),
               [](const auto* a, const auto* b) { return a->Pile < b->Pile; });
+    setAcceptedMouseButtons(Qt::NoButton);
     setZValue(-0.5);  // over the marks, under the cards of a next deal
     view.scene()->addItem(this);
     Repaint(boundingRect());
