@@ -80,9 +80,12 @@ bool TableKeys::eventFilter(QObject* watched, QEvent* event) {
             if (watched == table_) TellPlace();
             break;
         case QEvent::MouseMove:
+            // The window system may tell of a mouse that has not moved, as when a dialog closes over it.
+            if (watched != table_ && static_cast<QMouseEvent*>(event)->globalPosition() != mouse_) GiveWay();
+            break;
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            if (watched != table_) MoveMouse(static_cast<QMouseEvent*>(event)->globalPosition());
+            if (watched != table_) GiveWay();
             break;
         default:
             break;
@@ -115,9 +118,8 @@ bool TableKeys::PressKey(const QKeyEvent& event) {
     }
 }
 
-void TableKeys::MoveMouse(const QPointF& global) {
-    // The window system may tell of a mouse that has not moved, as when a dialog closes over it.
-    if (!mKeys::Place() || global == mouse_) return;
+void TableKeys::GiveWay() {
+    if (!mKeys::Place()) return;
     mKeys::Hide();
     refused_.stop();
     ShowView();

@@ -31,7 +31,8 @@ public:
 
 private:
     [[nodiscard]] bool PressKey(const QKeyEvent& event);
-    void MoveMouse(const QPointF& global);
+    /// The mouse takes over.
+    void GiveWay();
     void Show(mKeys::Answer answer);
     void ShowView();
     void TellPlace();

@@ -22,7 +22,6 @@
 #include "window/look/mPictures.h"
 #include "window/table/SpokenText.h"
 #include "window/table/StatusStrip.h"
-#include "window/table/TableKeys.h"
 #include "window/table/TableScroll.h"
 #include "window/table/TableView.h"
 #include "window/table/TableZoom.h"
@@ -75,6 +74,7 @@ frmMain::frmMain() {
 
 void frmMain::Load() {
     mMain::Load();
+    keys_ = new TableKeys(table_);
     state_->Restore();
     tmrMain.start(CommandTick);
     tmrTime.start(StatusTick);
@@ -90,7 +90,6 @@ void frmMain::BuildTable() {
     setCentralWidget(PicMain);
     table_->setFocus();
     zoom_ = new TableZoom(table_, this);
-    keys_ = new TableKeys(table_);
     new TableScroll(table_);
     state_ = new WindowState(this, zoom_);
     // The caption of a game is set when all is ready to deal it.
@@ -116,12 +115,12 @@ void frmMain::BuildTimers() {
 
 void frmMain::TickMain() {
     if (!gData) return;
+    keys_->Follow();
     if (closeWanted_ && !mGen::Dealing()) {
         close();
         return;
     }
     FollowReplay();
-    keys_->Follow();
     const mMain::CommandStates states = mMain::UpdateMenus();
     if (statesShown_ && states == states_) return;
     states_ = states;

@@ -9,12 +9,12 @@
 #include <QTimer>
 
 #include "engine/commands/mMain.h"
+#include "window/table/TableKeys.h"
 
 class QAction;
 class QToolBar;
 class SpokenText;
 class StatusStrip;
-class TableKeys;
 class TableView;
 class TableZoom;
 class WindowState;

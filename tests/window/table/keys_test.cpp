@@ -24,6 +24,8 @@ protected:
         mGen::StartGame("Klondike", 1.0);
         mKeys::Hide();
         window_->Table()->setFocus();
+        window_->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
     }
     void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(window_->Table(), key, modifiers);
@@ -140,8 +142,6 @@ TEST_F(TableKeysTest, ActionsOfScreenReadersEndInTheSameMoves) {
     while (gArray->GetTop(Stock) >= 0) act(place(Stock, 0), "Deal");
     act(place(Stock, 0), "Redeal");
     EXPECT_EQ(gArray->GetTop(Waste), -1);
-    window_->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window_.get()));
     act(place(Home, 2)->child(2), "SetFocus");
     EXPECT_EQ(Place(), (mFrame::Stop{{Home, 2}, 2}));
     EXPECT_TRUE(place(Home, 2)->child(2)->state().focused);
