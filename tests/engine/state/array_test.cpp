@@ -92,7 +92,7 @@ TEST_F(MoveCard, SilentMoves) {
 class WatchingStage : public MemoryStage {
 public:
     explicit WatchingStage(int PicID) : card_(PicID) {}
-    void ShowStep() override {
+    void ShowStep(double) override {
         const CardRecord& card = PicBack.PicCards(card_);
         Seen.push_back({card.Left, card.Top, card.FaceMode});
     }
