@@ -24,7 +24,7 @@ constexpr int LeastSeen = 60;  // twips
 constexpr int HalfRow = CardHeight / 2;
 constexpr int HalfColumn = CardWidth / 2;
 
-Point CornerOf(const mReader::Area& area) { return {area.Left, area.Top}; }
+Point CornerOf(const mReader::Extent& area) { return {area.Left, area.Top}; }
 
 // The cards of a pile that are not in the hand.
 int Lying(const PilePlace& pile) {
@@ -150,15 +150,15 @@ std::vector<Stop> Stops() {
     return stops;
 }
 
-mReader::Area AreaOf(const Stop& stop) {
+mReader::Extent AreaOf(const Stop& stop) {
     const int PicID = mReader::Card(stop.Pile, stop.Pos);
     return PicID < 0 ? mReader::BaseArea(stop.Pile) : mReader::CardArea(PicID);
 }
 
-mReader::Area SeenOf(const Stop& stop) {
-    mReader::Area seen = AreaOf(stop);
+mReader::Extent SeenOf(const Stop& stop) {
+    mReader::Extent seen = AreaOf(stop);
     if (stop.Pos + 1 >= Lying(stop.Pile)) return seen;
-    const mReader::Area next = AreaOf({stop.Pile, stop.Pos + 1});
+    const mReader::Extent next = AreaOf({stop.Pile, stop.Pos + 1});
     if (next.Left == seen.Left && next.Top > seen.Top)
         seen.Height = std::min(seen.Height, next.Top - seen.Top);
     if (next.Top == seen.Top && next.Left > seen.Left)

@@ -34,9 +34,9 @@ enum class Step {
 /// place each.
 [[nodiscard]] std::vector<Stop> Stops();
 /// The card or mark, in twips of the plate.
-[[nodiscard]] mReader::Area AreaOf(const Stop& stop);
+[[nodiscard]] mReader::Extent AreaOf(const Stop& stop);
 /// What can be seen of it: of a card in a fan the part that the next one leaves free.
-[[nodiscard]] mReader::Area SeenOf(const Stop& stop);
+[[nodiscard]] mReader::Extent SeenOf(const Stop& stop);
 /// Where the step leads; the same place where nothing lies that way. `from` is one of the places.
 [[nodiscard]] Stop Next(const Stop& from, Step step);
 /// The place on top of a pile; nothing for a pile that is not on the table.

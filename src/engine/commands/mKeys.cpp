@@ -64,7 +64,7 @@ void Carry() {
         const Point place = gGames->Position(Home, pile.Pile, stand->Pos + 1);
         mMain::Carry(place.X + HandRight, place.Y + HandDown);
     } else {
-        const mReader::Area place = mFrame::AreaOf(*stand);
+        const mReader::Extent place = mFrame::AreaOf(*stand);
         mMain::Carry(place.Left + HandRight, place.Top + HandBelowIndex);
     }
 }

@@ -49,8 +49,8 @@ void Follow();
 
 /// What the screen shows of it, in twips of the plate.
 struct View {
-    std::optional<mReader::Area> Frame;  ///< around the card, the mark, or what is in the hand
-    std::vector<mReader::Area> Targets;  ///< piles that take what the keys hold
+    std::optional<mReader::Extent> Frame;  ///< around the card, the mark, or what is in the hand
+    std::vector<mReader::Extent> Targets;  ///< piles that take what the keys hold
     bool operator==(const View&) const = default;
 };
 [[nodiscard]] View Seen();

@@ -42,9 +42,9 @@ std::string InSmallLetters(std::string name) {
     return name;
 }
 
-Area CardSized(int Left, int Top) { return {Left, Top, CardWidth, CardHeight}; }
+Extent CardSized(int Left, int Top) { return {Left, Top, CardWidth, CardHeight}; }
 
-Area United(const Area& a, const Area& b) {
+Extent United(const Extent& a, const Extent& b) {
     const int left = std::min(a.Left, b.Left);
     const int top = std::min(a.Top, b.Top);
     return {left, top, std::max(a.Left + a.Width, b.Left + b.Width) - left,
@@ -53,7 +53,7 @@ Area United(const Area& a, const Area& b) {
 
 }  // namespace
 
-bool Area::Contains(const Point& point) const {
+bool Extent::Contains(const Point& point) const {
     return point.X >= Left && point.X < Left + Width && point.Y >= Top && point.Y < Top + Height;
 }
 
@@ -109,20 +109,20 @@ std::string PileText(const PilePlace& pile) {
     return PileName(pile) + fmt::format(", {} card{}", count, count == 1 ? "" : "s");
 }
 
-Area CardArea(int PicID) {
+Extent CardArea(int PicID) {
     const CardRecord& card = PicBack.PicCards(PicID);
     return CardSized(card.Left, card.Top);
 }
 
-Area BaseArea(const PilePlace& pile) {
+Extent BaseArea(const PilePlace& pile) {
     if (const MarkRecord* mark = MarkOf(pile)) return CardSized(mark->Left, mark->Top);
     const Point place = gGames->Position(pile.Cell, pile.Pile, 0);
     return CardSized(place.X, place.Y);
 }
 
-Area PileArea(const PilePlace& pile) {
+Extent PileArea(const PilePlace& pile) {
     if (!Running()) return {};
-    Area area = BaseArea(pile);
+    Extent area = BaseArea(pile);
     for (int Pos = 0; Pos < Count(pile); ++Pos) {
         if (const int PicID = Card(pile, Pos); PicID >= 0) area = United(area, CardArea(PicID));
     }

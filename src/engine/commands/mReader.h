@@ -20,10 +20,10 @@ struct PilePlace {
 };
 
 /// A part of the plate, in twips.
-struct Area {
+struct Extent {
     int Left = 0, Top = 0, Width = 0, Height = 0;
     [[nodiscard]] bool Contains(const Point& point) const;
-    bool operator==(const Area&) const = default;
+    bool operator==(const Extent&) const = default;
 };
 
 /// The piles that can be seen, by group and number; none while no game runs. A pile without a mark is
@@ -47,11 +47,11 @@ struct Area {
 /// takes an Ace" where the mark tells.
 [[nodiscard]] std::string PileText(const PilePlace& pile);
 
-[[nodiscard]] Area CardArea(int PicID);
+[[nodiscard]] Extent CardArea(int PicID);
 /// The pile's own place: that of its mark or its first card.
-[[nodiscard]] Area BaseArea(const PilePlace& pile);
+[[nodiscard]] Extent BaseArea(const PilePlace& pile);
 /// All cards and the pile's own place.
-[[nodiscard]] Area PileArea(const PilePlace& pile);
+[[nodiscard]] Extent PileArea(const PilePlace& pile);
 /// The pile of the card or mark that is seen at that point of the plate.
 [[nodiscard]] std::optional<PilePlace> PileAt(const Point& point);
 /// The Pos of the pile's card that is seen there, or -1. Other piles play no part.

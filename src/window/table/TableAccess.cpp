@@ -219,7 +219,7 @@ QAccessibleInterface* TableAccess::At(const Place& place) const {
     return made;
 }
 
-QRect TableAccess::OnScreen(const mReader::Area& area) const {
+QRect TableAccess::OnScreen(const mReader::Extent& area) const {
     const TableView* view = View();
     const QPoint start = view->mapFromScene(area.Left, area.Top);
     const QPoint end = view->mapFromScene(area.Left + area.Width, area.Top + area.Height);

@@ -39,7 +39,7 @@ public:
     [[nodiscard]] QAccessibleInterface* Pile(const mReader::PilePlace& pile) const;
     [[nodiscard]] QAccessibleInterface* Card(const mReader::PilePlace& pile, int Pos) const;
     /// Pixels of the screen.
-    [[nodiscard]] QRect OnScreen(const mReader::Area& area) const;
+    [[nodiscard]] QRect OnScreen(const mReader::Extent& area) const;
     /// Twips of the plate.
     [[nodiscard]] Point OnPlate(int x, int y) const;
     /// Of what covers that part of the screen.

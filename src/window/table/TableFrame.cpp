@@ -23,7 +23,7 @@ const QColor Light(255, 214, 0);
 const QColor Dark(20, 20, 20);
 const QColor Refused(214, 30, 30);
 
-QRectF Rect(const mReader::Area& area) { return QRectF(area.Left, area.Top, area.Width, area.Height); }
+QRectF Rect(const mReader::Extent& area) { return QRectF(area.Left, area.Top, area.Width, area.Height); }
 
 void DrawFrame(QPainter& painter, const QRectF& card, const QColor& color, Qt::PenStyle style) {
     const QRectF line = card.adjusted(-Gap, -Gap, Gap, Gap);
@@ -66,7 +66,7 @@ QRectF TableFrame::Show(const mKeys::View& view, bool refused) {
     prepareGeometryChange();
     covered_ = {};
     if (view.Frame) covered_ = Rect(*view.Frame);
-    for (const mReader::Area& target : view.Targets) covered_ |= Rect(target);
+    for (const mReader::Extent& target : view.Targets) covered_ |= Rect(target);
     if (!covered_.isNull()) {
         // The sign may be larger than what is seen of a card in a fan.
         covered_.adjust(-SignSize, -SignSize, SignSize, SignSize);
@@ -78,7 +78,7 @@ QRectF TableFrame::Show(const mKeys::View& view, bool refused) {
 void TableFrame::paint(QPainter* painter, const QStyleOptionGraphicsItem*, QWidget*) {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    for (const mReader::Area& target : view_.Targets) {
+    for (const mReader::Extent& target : view_.Targets) {
         DrawFrame(*painter, Rect(target), Qt::white, Qt::CustomDashLine);
     }
     if (view_.Frame) {

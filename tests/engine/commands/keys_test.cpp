@@ -83,8 +83,8 @@ std::size_t SeenPlaces() {
     for (const mReader::PilePlace& pile : mReader::Piles()) {
         ++places;
         for (int Pos = 1; Pos < mReader::Count(pile); ++Pos) {
-            const mReader::Area lower = mReader::CardArea(mReader::Card(pile, Pos - 1));
-            const mReader::Area upper = mReader::CardArea(mReader::Card(pile, Pos));
+            const mReader::Extent lower = mReader::CardArea(mReader::Card(pile, Pos - 1));
+            const mReader::Extent upper = mReader::CardArea(mReader::Card(pile, Pos));
             const int apart = std::abs(lower.Left - upper.Left) + std::abs(lower.Top - upper.Top);
             if (apart >= 100 || (apart >= 60 && pile.Cell == Home)) ++places;
         }

@@ -58,14 +58,14 @@ TEST_F(Reader, APointShowsWhatLiesInFront) {
     const PilePlace first{Home, 0};
     const PilePlace second{Home, 1};
     const PilePlace waste{Waste, 0};
-    const mReader::Area king = mReader::CardArea(mPosition::Card("KS"));
+    const mReader::Extent king = mReader::CardArea(mPosition::Card("KS"));
     const Point index{king.Left + 10, king.Top + 10};  // above the Queen
     const Point middle{king.Left + CardWidth / 2, king.Top + CardHeight / 2};
 
     EXPECT_EQ(mReader::PileAt(index), first);
     EXPECT_EQ(mReader::PosAt(first, index), 0);
     EXPECT_EQ(mReader::PosAt(first, middle), 1);
-    EXPECT_EQ(mReader::PileArea(first), (mReader::Area{king.Left, king.Top, CardWidth, CardHeight + 250}));
+    EXPECT_EQ(mReader::PileArea(first), (mReader::Extent{king.Left, king.Top, CardWidth, CardHeight + 250}));
     EXPECT_EQ(mReader::PileAt({king.Left + 1200, king.Top}), second);
     EXPECT_EQ(mReader::PosAt(second, {king.Left + 1200, king.Top}), -1);
     EXPECT_EQ(mReader::PileAt({king.Left + CardWidth, king.Top}), std::nullopt);
