@@ -19,6 +19,15 @@ constexpr Layout Piles9Goals4NoStock = {
     .Stock = {.StartX = 5825},
     .BaseX = 10385};
 
+// The usual seven piles leave no room in the top row: the reserve stands at the left of the tableau.
+constexpr Layout Piles7Goals4ResBeside = {
+    .Home  = {.StartX = 0, .StartY = BelowTop, .PileWidth = Across, .PosWidth = Fan},
+    .Goal  = {.StartX = 3495, .PileWidth = Across},
+    .Stock = {.StartX = 0},
+    .Waste = {.StartX = 1265},
+    .Res   = {.StartX = -Across, .StartY = BelowTop, .PileWidth = DownTight, .PileOrder = DownFanRight},
+    .BaseX = 8055};
+
 // The top row is wider than the tableau, which stands in its middle.
 constexpr Layout Piles7Goals8Stock = {
     .Home  = {.StartX = 1165, .StartY = BelowTop, .PileWidth = Across, .PosWidth = Fan},
@@ -126,7 +135,7 @@ constexpr Table::Rows<60> rows = {{
     {"Full Moon",              yes,     9,    52,    0, DownAny,   DownSuit,   0, AnyCard,  InverseCone,       FourSuits,     4, UpSuit,   PlainAces, OneToEachPile, NoRedeal, Closed, no,     none,  none, none,      52,       0, &Piles9Goals4},
     {"Galaxy",                 yes,     8,    52,    0, DownSuit,  AsOrder,    0, AnyCard,  Rows,              OneSuit,       4, UpSuit,   PlainAces, none,          none,     Closed, no,        4,     0, OneCard,   52,       0, &Piles8Goals4Res4},
     {"Golden Beach",           yes,     8,   104,   24, DownAny,   DownAlt,    0, AnyCard,  Rows,              FourSuits,     8, UpAlt,    PlainAces, none,          none,     Closed, no,     none,  none, none,     104,       0, &Piles8GoalsBeside},
-    {"Ivory",                  yes,     7,    35,    0, DownAny,   DownSuit,   0, AnyCard,  Rows,              FourSuits,     4, UpSuit,   PlainAces, OneToWaste,    NoRedeal, Closed, yes,       2,     0, NoDrop,    52,       0, &Piles7Goals4Res2},
+    {"Ivory",                  yes,     7,    35,    0, DownAny,   DownSuit,   0, AnyCard,  Rows,              FourSuits,     4, UpSuit,   PlainAces, OneToWaste,    NoRedeal, Closed, yes,       2,     0, NoDrop,    52,       0, &Piles7Goals4ResBeside},
     {"Klondike Spider",        yes,     8,    36,    0, DownAny,   DownSuit,   0, AnyCard,  StairsRight,       FourSuits,     4, UpSuit,   PlainAces, OneToWaste,    NoRedeal, Closed, yes,    none,  none, none,      52,       0, &Piles8Goals4},
     {"Lake View",              yes,     7,    49,    0, DownAlt,   Always,     0, KingOnly, ClosedBlock,       FourSuits,     1, UpAlt,    PlainAces, OneToEachPile, NoRedeal, Closed, no,     none,  none, none,      52,       8, &Piles7Goals1},
     {"Little Coral",           yes,     7,    52,    0, DownAny,   DownColor,  0, AnyCard,  Rows,              FourSuits,     4, UpColor,  PlainAces, none,          none,     Closed, no,     none,  none, none,      52,       0, &Piles7Goals4NoStock},
