@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Finds out how often each game can be won, and writes what was found into the source.
 
-    tools/winnability.py try --program build/release/tools/tarnival-winnable --deals 100 --limit 100000
+    tools/winnability.py try --program build/release/tarnival-winnable --deals 100 --limit 100000
     tools/winnability.py table
 
 "try" gives the deals 1 to N of each game to the solver and keeps a line for each deal in a folder, a file for each
@@ -158,7 +158,7 @@ def table(options):
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("task", choices=("try", "table"))
-    parser.add_argument("--program", default=str(ROOT / "build/release/tools/tarnival-winnable"))
+    parser.add_argument("--program", default=str(ROOT / "build/release/tarnival-winnable"))
     parser.add_argument("--results", type=pathlib.Path, default=ROOT / "build/winnability", help="the folder")
     parser.add_argument("--deals", type=int, default=100, help="the deals 1 to this number")
     parser.add_argument("--limit", type=int, default=100000, help="states a deal")
