@@ -21,15 +21,20 @@ fail() {
 # shellcheck source=packages.sh
 . tools/setup/packages.sh
 
+# Warnings stop whoever changes the program, never one who builds it with a newer compiler: TARNIVAL_WERROR=ON, which
+# .ci/run sets, makes them errors in every preset.
+warnings_are_errors=${TARNIVAL_WERROR:-OFF}
+
 # configure <preset>: only where this preset is not yet configured as it would be now.
 # Changed CMake files are noticed by the build itself.
 configure() {
     local preset=$1 stamp=build/$1/.configured launcher key
     launcher=$(command -v ccache || true)
-    key="$root $launcher $(sha256sum <CMakePresets.json)"
+    key="$root $launcher $warnings_are_errors $(sha256sum <CMakePresets.json)"
     [[ -f build/$preset/build.ninja && -f $stamp && $(<"$stamp") == "$key" ]] && return
     say "Configuring build/$preset"
-    cmake --fresh --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher"
+    cmake --fresh --preset "$preset" -DCMAKE_CXX_COMPILER_LAUNCHER="$launcher" \
+        -DTARNIVAL_WERROR="$warnings_are_errors"
     echo "$key" >"$stamp"
 }
 
