@@ -175,7 +175,7 @@ QWidget* frmCustomize::BuildDecks() {
     auto* all = new QGridLayout(tab);
     all->addWidget(tvDeck, 0, 0, 2, 1);
     all->addWidget(picDeckBack, 0, 1);
-    all->addWidget(chkFour, 1, 1);
+    all->addWidget(chkFour, 1, 1, Qt::AlignLeft);
     all->setRowStretch(0, 1);
     all->setColumnStretch(0, 1);
     all->setColumnStretch(1, 1);
