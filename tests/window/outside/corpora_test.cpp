@@ -7,7 +7,7 @@
 namespace {
 
 TEST(HomeCorpora, EveryKeptInputIsTakenWellWholeAndDamaged) {
-    constexpr int Rounds = 6;
+    constexpr int Rounds = 2;  // each is a whole start on a real disk
     for (const mFuzz::Target& target : mFuzz::HomeTargets) mFuzz::Replay(target, TARNIVAL_CORPORA, Rounds);
 }
 

@@ -203,8 +203,8 @@ void ExpectKept(const std::vector<std::string>& confirmed, const std::vector<std
 }
 
 TEST_F(TwoPrograms, LoseNothingOfEachOther) {
-    const int steps = FromEnvironment("TARNIVAL_STEPS", 400);
-    const int kills = FromEnvironment("TARNIVAL_KILLS", 8);
+    const int steps = FromEnvironment("TARNIVAL_STEPS", 200);
+    const int kills = FromEnvironment("TARNIVAL_KILLS", 6);
     void* shared =
         ::mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     ASSERT_NE(shared, MAP_FAILED);
