@@ -4,6 +4,7 @@
 #include <memory>
 
 #include <QApplication>
+#include <QLoggingCategory>
 
 #include "engine/commands/mLoad.h"
 #include "engine/state/cData.h"
@@ -37,6 +38,8 @@ public:
 
 int main(int argc, char** argv) {
     Application application(argc, argv);
+    // Assistive programs may ask for what has just closed; that is no fault of this one to report.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.accessibility.atspi.warning=false"));
     QApplication::setOrganizationName(QStringLiteral("Kelmor"));
     QApplication::setApplicationName(QStringLiteral("Tarnival"));
     QApplication::setDesktopFileName(QStringLiteral("tarnival"));

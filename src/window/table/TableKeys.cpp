@@ -161,5 +161,9 @@ void TableKeys::TellPlace() {
     const std::optional<mFrame::Stop> place = mKeys::Place();
     if (place == told_) return;
     told_ = place;
-    if (place && table_->hasFocus()) TableAccess::TellFocus(table_);
+    if (!place) return;
+    // On a table that is larger than its window.
+    const mReader::Extent seen = *mKeys::Seen().Frame;
+    table_->Reveal(QRectF(seen.Left, seen.Top, seen.Width, seen.Height));
+    if (table_->hasFocus()) TableAccess::TellFocus(table_);
 }
