@@ -12,8 +12,10 @@ import re
 import sys
 from contextlib import closing
 
+from gi.repository import GLib
+
 from play import Driver, expect, records
-from reader import Bus, Reader, children, named, wait
+from reader import Bus, Reader, children, named, role_of, wait
 from window import Failure, Game, run, wait_for
 
 ARROWS = {"Left": (-1, 0), "Right": (1, 0), "Up": (0, -1), "Down": (0, 1)}
@@ -29,6 +31,13 @@ def where(state, card):
                 if picture == card:
                     return group, pile, at
     raise Failure(f"card {card} is not on the table")
+
+
+def takers(sentence):
+    """The piles of "Six of Clubs lifted, tableau piles 2 and 4 and foundation pile 1 take it"."""
+    found = re.findall(rf"({'|'.join(GROUPS)})(?: piles? ((?:\d+(?:, | and )?)+))?", sentence.split(", ", 1)[1])
+    return [(GROUPS.index(group), int(number) - 1) for group, numbers in found
+            for number in re.findall(r"\d+", numbers or "1")]
 
 
 def place_in(text):
@@ -59,10 +68,13 @@ class Player:
 
     def listen(self):
         for kind, thing, on in self.reader.heard():
-            if kind.startswith("object:state-changed:showing") and thing.get_role_name() == "notification":
-                self.said.append(thing.get_name())
-            elif kind.startswith("object:state-changed:focused") and on:
-                self.place = f"{thing.get_name()}, {thing.get_description()}".lower()
+            try:
+                if kind.startswith("object:state-changed:showing") and role_of(thing) == "notification":
+                    self.said.append(thing.get_name())
+                elif kind.startswith("object:state-changed:focused") and on:
+                    self.place = f"{thing.get_name()}, {thing.get_description()}".lower()
+            except GLib.Error:
+                pass  # of a window that has closed
 
     def told(self, pattern):
         """Waits for a sentence; what was said before it is forgotten."""
@@ -92,10 +104,12 @@ class Player:
                 raise Failure(f"{failure}; the frame was at {before!r}") from failure
             self.place = before
 
-    @staticmethod
-    def taker(sentence, target):
-        """The pile to drop on: of a winning move, whose end nobody sees, the first that is said to take it."""
-        return target or place_in(sentence.split(", ", 1)[1])
+    def taker(self, state, target):
+        """Of the piles that are said to take the lifted card the one at that place."""
+        def away(pile):
+            x, y = corner(state, *pile)
+            return abs(x - target[0]) + abs(y - target[1])
+        return min(takers(self.told("lifted, (?!no pile)")), key=away)
 
     def at(self):
         return place_in(self.place)
@@ -124,12 +138,12 @@ class Player:
 class ByKeys(Player):
     def drag(self, state, source, target):
         self.go(state, *source)
-        if target and target[0] == 3:
+        self.game.screen.xdotool("key", "space")
+        taker = self.taker(state, target)
+        if taker[0] == 3:
             self.game.screen.xdotool("key", "f")
         else:
-            self.game.screen.xdotool("key", "space")
-            target = self.taker(self.told("lifted"), target)
-            self.go(state, *target[:2])
+            self.go(state, *taker)
             self.game.screen.xdotool("key", "Return")
 
     def stock(self, state, _):
@@ -144,15 +158,15 @@ class ByActions(Player):
         return next(pile for pile in children(table) if name.match(pile.get_name()))
 
     def do(self, thing, action):
-        offered = [thing.get_action_name(i) for i in range(thing.get_n_actions())]
+        names = self.reader.atspi.Action.get_localized_name
+        offered = [names(thing, i) for i in range(thing.get_n_actions())]
         if action not in offered:
             raise Failure(f"{thing.get_name()} offers {offered} and not {action}")
         thing.do_action(offered.index(action))
 
-    def drag(self, _, source, target):
+    def drag(self, state, source, target):
         self.do(self.pile(*source[:2]).get_child_at_index(source[2]), "Lift")
-        target = self.taker(self.told("lifted"), target)
-        self.do(self.pile(*target[:2]), "Drop Here")
+        self.do(self.pile(*self.taker(state, target)), "Drop Here")
 
     def stock(self, _, action):
         self.do(self.pile(1, 0), action)
@@ -164,9 +178,8 @@ def win(player, driver, commands):
         word, *rest = command.split()
         before, state = state, driver.do(command)
         if word == "drag":
-            # A card that goes on by itself is at its end already.
-            target = where(state, int(rest[0])) if state["running"] else None
-            player.drag(before, where(before, int(rest[0])), target)
+            card, x, y = map(int, rest)
+            player.drag(before, where(before, card), (x, y))
         else:
             player.stock(before, "Deal" if word == "press" else "Redeal")
         player.told(" (to|up|stock|won)\\b" if state["running"] else "game is won")
