@@ -155,21 +155,27 @@ class ByActions(Player):
     def pile(self, group, number):
         name = re.compile(rf"{GROUPS[group]}( pile {number + 1})?,", re.IGNORECASE)
         table = named(self.program, "Table")
-        return next(pile for pile in children(table) if name.match(pile.get_name()))
+        return next((pile for pile in children(table) if name.match(pile.get_name())), None)
 
-    def do(self, thing, action):
-        names = self.reader.atspi.Action.get_localized_name
-        offered = [names(thing, i) for i in range(thing.get_n_actions())]
-        if action not in offered:
-            raise Failure(f"{thing.get_name()} offers {offered} and not {action}")
-        thing.do_action(offered.index(action))
+    def do(self, action, group, number, card=None):
+        """Has a pile or a card do what it offers; it may still be on its way there from the last move."""
+        def offering():
+            thing = self.pile(group, number)
+            if thing and card is not None:
+                thing = thing.get_child_at_index(card)
+            if not thing:
+                return None
+            names = self.reader.actions(thing)
+            return action in names and (thing, names.index(action))
+        thing, index = wait(f"{GROUPS[group]} {number + 1}, card {card}, to offer {action}", offering, 5)
+        thing.do_action(index)
 
     def drag(self, state, source, target):
-        self.do(self.pile(*source[:2]).get_child_at_index(source[2]), "Lift")
-        self.do(self.pile(*self.taker(state, target)), "Drop Here")
+        self.do("Lift", *source)
+        self.do("Drop Here", *self.taker(state, target))
 
     def stock(self, _, action):
-        self.do(self.pile(1, 0), action)
+        self.do(action, 1, 0)
 
 
 def win(player, driver, commands):

@@ -92,6 +92,9 @@ class Reader:
     def at(self, thing, x, y):
         return thing.get_accessible_at_point(x, y, self.atspi.CoordType.SCREEN)
 
+    def actions(self, thing):
+        return [thing.get_action_name(i) for i in range(thing.get_n_actions())]
+
     def labels(self, thing):
         """The names of what labels a control."""
         labelled = self.atspi.RelationType.LABELLED_BY
