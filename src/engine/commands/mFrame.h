@@ -13,7 +13,7 @@ namespace mFrame {
 struct Stop {
     mReader::PilePlace Pile;
     int Pos = -1;
-    auto operator<=>(const Stop&) const = default;
+    auto operator<=>(const Stop&) const = default;  // NOLINT(modernize-use-nullptr): no pointer
 };
 
 /// What a key asks for.

@@ -16,7 +16,7 @@ namespace mReader {
 struct PilePlace {
     int Cell = 0;
     int Pile = 0;
-    auto operator<=>(const PilePlace&) const = default;
+    auto operator<=>(const PilePlace&) const = default;  // NOLINT(modernize-use-nullptr): no pointer
 };
 
 /// A part of the plate, in twips.

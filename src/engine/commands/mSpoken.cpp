@@ -34,6 +34,7 @@ using Group = std::vector<int>;
 
 std::vector<std::string> Names(const Group& cards) {
     std::vector<std::string> names;
+    names.reserve(cards.size());
     for (const int PicID : cards) names.push_back(mReader::CardText(PicID));
     return names;
 }
@@ -48,6 +49,7 @@ bool LiesLower(int a, int b) {
 std::string Together(const std::vector<PilePlace>& piles) {
     if (piles.size() == 1) return mReader::PileInSentence(piles.front());
     std::vector<std::string> numbers;
+    numbers.reserve(piles.size());
     for (const PilePlace& pile : piles) numbers.push_back(std::to_string(pile.Pile + 1));
     const std::string first = mReader::PileInSentence(piles.front());
     return first.substr(0, first.rfind(' ')) + "s " + mRulesWords::List(numbers);
@@ -100,6 +102,7 @@ std::string Lifted(int PicID, int above) {
         ++count;
     }
     std::vector<std::string> groups;
+    groups.reserve(takers.size());
     for (const auto& [Cell, piles] : takers) groups.push_back(Together(piles));
     const std::string verb = count == 1 ? " takes it" : " take it";
     return fmt::format("{}{} lifted, {}", mReader::CardText(PicID), AndMore(above),

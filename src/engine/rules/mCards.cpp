@@ -96,6 +96,7 @@ void DealMarkers() {
 void DealStock() {
     if (gGames->StockNum != StockNum::None) SetStockMarker(Number(gGames->StockNum));
     std::vector<bool> placed;
+    placed.reserve(static_cast<std::size_t>(gGames->TotalCards()));
     for (int c = 0; c < gGames->TotalCards(); ++c) placed.push_back(mFunc::CardCell(c) == Goal);
     MakeAll(mDeal::DealStock(*gGames, Faces(), placed), AtOnce);
 }
