@@ -41,13 +41,11 @@ FileError EndOfTornLine(int descriptor, off_t size, std::string& end) {
 FileError AppendText(int descriptor, off_t size, std::string_view text) {
     const ssize_t written = mDisk::WriteOnce(descriptor, text);
     FileError fault;
-    if (written < 0) {
-        fault = Cause(errno);
-    } else if (static_cast<std::size_t>(written) < text.size()) {
+    if (written >= 0 && static_cast<std::size_t>(written) < text.size()) {
         // A short write keeps its cause to itself; the next one tells it.
         const ssize_t more = mDisk::WriteOnce(descriptor, text.substr(static_cast<std::size_t>(written)));
         fault = more < 0 ? Cause(errno) : "Only a part could be written";
-    } else if (::fsync(descriptor) != 0) {
+    } else if (written < 0 || ::fsync(descriptor) != 0) {
         fault = Cause(errno);
     }
     if (fault && written > 0 && ::ftruncate(descriptor, size) != 0) {
@@ -252,7 +250,7 @@ FileError DiskFiles::Rename(const std::string& from, const std::string& to) {
         // This file system cannot rename without replacing. A second name cannot replace either.
         if (::link(from.c_str(), to.c_str()) == 0) {
             if (::unlink(from.c_str()) != 0) {
-                const FileError fault = Cause(errno);
+                FileError fault = Cause(errno);
                 ::unlink(to.c_str());
                 return fault;
             }
