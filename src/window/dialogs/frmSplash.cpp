@@ -13,7 +13,8 @@
 
 frmSplash::frmSplash() {
     setObjectName(QStringLiteral("frmSplash"));
-    // Not as a splash screen to the window system, which would give it no key to end with.
+    // Not as a splash screen to the window system, which would give it no key to end with; a dialog to a
+    // screen reader.
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QString::fromStdString(gData->ProdName()));

@@ -1,10 +1,10 @@
 // The splash window: a picture and the version, gone after three seconds, a key or a click.
 #pragma once
 
+#include <QDialog>
 #include <QTimer>
-#include <QWidget>
 
-class frmSplash : public QWidget {
+class frmSplash : public QDialog {
     Q_OBJECT
 public:
     frmSplash();
