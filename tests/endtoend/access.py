@@ -271,6 +271,8 @@ def listen(screen, program_file, lab, moves_file):
             check_window(reader, splash)
             game.choose("Klondike")
             screen.settle()
+            screen.xdotool("key", "ctrl+0")  # the actual size: the driver's places are those of the screen then
+            screen.settle()
             read = read_dialogs(reader, game, program)
             print("access.py: read and closed " + ", ".join(read))
             if len(read) < 10:
