@@ -27,12 +27,13 @@ public:
         ++Steps;
         Waited += std::min(limit, Refresh);
     }
+    void BeginSteps() override { ++Begun; }
     /// Runs what a test wants to happen in the middle of a deal.
     void LetEventsRun() override {
         if (OnEvents) OnEvents();
     }
 
-    long Moves = 0, Raises = 0, Changes = 0, Refreshes = 0, Steps = 0;
+    long Moves = 0, Raises = 0, Changes = 0, Refreshes = 0, Steps = 0, Begun = 0;
     double Waited = 0;  ///< milliseconds that a screen would have shown the steps
     std::function<void()> OnEvents;
 };

@@ -29,6 +29,8 @@ public:
     /// milliseconds, without letting events run. A step whose time is over before it could be painted may
     /// be left to the next one.
     virtual void ShowStep(double limit) = 0;
+    /// A command begins whose steps share a time, which is counted from now on.
+    virtual void BeginSteps() = 0;
     /// Lets pending window events run.
     virtual void LetEventsRun() = 0;
 };

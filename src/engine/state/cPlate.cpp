@@ -119,6 +119,11 @@ void cPlate::ShowStep() {
     if (stage_ && !hurried_) stage_->ShowStep(stepLimit_);
 }
 
+void cPlate::SetStepLimit(double milliseconds) {
+    stepLimit_ = milliseconds;
+    if (stage_ && milliseconds != NoStepLimit) stage_->BeginSteps();
+}
+
 void cPlate::LetEventsRun() {
     if (stage_) stage_->LetEventsRun();
 }

@@ -89,7 +89,7 @@ public:
 
     /// The longest that a step may be shown, in milliseconds.
     static constexpr double NoStepLimit = std::numeric_limits<double>::infinity();
-    void SetStepLimit(double milliseconds) { stepLimit_ = milliseconds; }
+    void SetStepLimit(double milliseconds);
     [[nodiscard]] double StepLimit() const { return stepLimit_; }
     /// While it is set, steps are not shown at all; cards still come to lie where they belong.
     void SetHurried(bool hurried) { hurried_ = hurried; }

@@ -165,6 +165,10 @@ void ProgramStage::ShowStep(double limit) {
     if (table_) table_->ShowStep(limit);
 }
 
+void ProgramStage::BeginSteps() {
+    if (table_) table_->BeginSteps();
+}
+
 void ProgramStage::LetEventsRun() {
     if (table_) table_->LetEventsRun();
 }

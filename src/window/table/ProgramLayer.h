@@ -59,6 +59,7 @@ public:
     void MarkChanged(MarkKind kind, int index) override;
     void Refresh() override;
     void ShowStep(double limit) override;
+    void BeginSteps() override;
     void LetEventsRun() override;
 
 private:

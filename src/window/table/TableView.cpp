@@ -283,14 +283,21 @@ double TableView::RefreshPeriod() const {
     return 1000.0 / (rate >= 1.0 ? rate : UnknownRate);
 }
 
+double TableView::Now() const {
+    constexpr double NanosecondsPerMs = 1e6;
+    return static_cast<double>(clock_.nsecsElapsed()) / NanosecondsPerMs;
+}
+
+void TableView::BeginSteps() { stepEnd_ = Now(); }
+
 void TableView::ShowStep(double limit) {
     if (!isVisible()) return;
-    constexpr double NanosecondsPerMs = 1e6;
-    const auto now = [this] { return static_cast<double>(clock_.nsecsElapsed()) / NanosecondsPerMs; };
     const double refresh = RefreshPeriod();
     const bool hurried = limit < refresh;
-    const double start = now();
-    if (start > stepEnd_ + 2 * refresh) stepEnd_ = start;  // after a pause
+    const double start = Now();
+    // After a pause. A command with little time has none: where its steps waited for a busy machine, the next
+    // ones make up for it.
+    if (!hurried && start > stepEnd_ + 2 * refresh) stepEnd_ = start;
     const double end = stepEnd_ + std::min(limit, refresh);
     // A command that may take only so long leaves out what the painting of other steps took the time from.
     if (hurried && start > end) {
@@ -300,10 +307,10 @@ void TableView::ShowStep(double limit) {
     Refresh();
     // From step to step one period, the time of drawing included, so that a long trip keeps the pace of
     // the screen; after a pause the first step is shown for a whole period.
-    const double rest = end - now();
+    const double rest = end - Now();
     constexpr double MicrosecondsPerMs = 1000.0;
     if (rest > 0) QThread::usleep(static_cast<unsigned long>(rest * MicrosecondsPerMs));
-    stepEnd_ = hurried ? end : now();
+    stepEnd_ = hurried ? end : Now();
 }
 
 void TableView::LetEventsRun() {

@@ -55,6 +55,7 @@ public:
     void MarkChanged(MarkKind kind, int index) override;
     void Refresh() override;
     void ShowStep(double limit) override;
+    void BeginSteps() override;
     void LetEventsRun() override;
 
 Q_SIGNALS:
@@ -74,6 +75,7 @@ protected:
 
 private:
     [[nodiscard]] double RefreshPeriod() const;  ///< milliseconds
+    [[nodiscard]] double Now() const;            ///< milliseconds of clock_
     /// What an item covers must be drawn anew, at once or with the next repaint.
     void MarkDirty(const QGraphicsItem& item);
     [[nodiscard]] KelEmpty* MarkItem(MarkKind kind, int index) const;

@@ -99,33 +99,6 @@ TEST_F(Deal, Foundations) {
     EXPECT_THAT(engine_.Layer.Sounds.Played, testing::Contains("START"));
 }
 
-// The position that is computed without a table is the one that the table deals, in every game.
-TEST_F(Deal, TheOpeningPosition) {
-    mGen::AsideGame aside;
-    for (int SiD = 1; SiD <= gData->TotalGames(); ++SiD) {
-        SCOPED_TRACE(gData->GetGame(SiD));
-        mGen::SetGameRules(gData->GetGame(SiD));
-        const mDeal::Opening opening = mDeal::Deal(*gGames, SiD);
-        aside.Deal(gData->GetGame(SiD), static_cast<double>(SiD));
-        EXPECT_EQ(std::tuple(opening.Base, opening.EmptyNum), std::tuple(gGoalBase, gGames->EmptyNum));
-        for (const int Cell : {Home, Stock, Waste, Goal, Res}) {
-            const auto& piles = opening.Piles.at(static_cast<std::size_t>(Cell));
-            ASSERT_EQ(piles.size(), static_cast<std::size_t>(gGames->Piles(Cell)));
-            for (int p = 0; p < gGames->Piles(Cell); ++p) {
-                const auto& pile = piles[static_cast<std::size_t>(p)];
-                ASSERT_EQ(static_cast<int>(pile.size()), gArray->GetTop(Cell, p) + 1);
-                for (int Pos = 0; Pos <= gArray->GetTop(Cell, p); ++Pos) {
-                    const auto& [PicID, closed] = pile[static_cast<std::size_t>(Pos)];
-                    EXPECT_EQ(gArray->GetPicID(Cell, p, Pos), PicID);
-                    EXPECT_EQ(mFunc::CardFaceMode(PicID) == 1, closed);
-                    EXPECT_EQ(static_cast<const CardFace&>(PicBack.PicCards(PicID)),
-                              opening.Cards.at(static_cast<std::size_t>(PicID)));
-                }
-            }
-        }
-    }
-}
-
 // A base rank by chance is never a King; where the base fills the empty piles, they take the rank below it.
 TEST_F(Deal, ABaseRankByChance) {
     game_.Goal.GoalType = GoalType::FirstCard;

@@ -83,16 +83,17 @@ TEST_F(TransactionLog, SpeedAndSound) {
     EXPECT_THAT(engine_.Layer.Sounds.Played, ElementsAre("UNDO")) << "of the Redo";
 }
 
-// A game that wanders on for long loses nothing of its log; the shown count stops at 16 bits.
 // All steps are shown, each for one refresh of the screen where three seconds are enough for that.
 TEST_F(TransactionLog, ACommandTakesThreeSecondsAtMost) {
     constexpr double Refresh = 1000.0 / 60;
     MemoryStage& stage = engine_.Layer.Stage;
     const auto expect = [&](int steps, const std::string& what) {
         EXPECT_EQ(stage.Steps, steps) << what;
+        EXPECT_EQ(stage.Begun, 1) << what;
         EXPECT_NEAR(stage.Waited, std::min(3000.0, steps * Refresh), 1e-6) << what;
         stage.Steps = 0;
         stage.Waited = 0;
+        stage.Begun = 0;
     };
     mPosition::Begin({});
     mPosition::Lay(Home, 0, "2C-6C");
@@ -126,6 +127,7 @@ TEST_F(TransactionLog, ACommandTakesThreeSecondsAtMost) {
     }
 }
 
+// A game that wanders on for long loses nothing of its log; the shown count stops at 16 bits.
 TEST_F(TransactionLog, FortyThousandRecords) {
     mPosition::Begin({});
     mScript::Lay("H0 2C 3C");

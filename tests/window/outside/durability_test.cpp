@@ -1,21 +1,14 @@
-// Nothing that was confirmed is lost: the program killed at any moment of whatever it writes, two programs
-// at once, a full disk and a folder without rights, all on a real disk.
+// Nothing that was confirmed is lost where two programs write one file and where the disk is full, on a real
+// disk.
 //
-// TARNIVAL_KILLS and TARNIVAL_WRITES in the environment set how often the program is killed in each kind of
-// work and how many records each of two writers makes; by default few, so that a usual run of the tests
-// stays short.
-#include <algorithm>
+// TARNIVAL_WRITES in the environment sets how many records each of two writers makes; by default few, so that
+// a usual run of the tests stays short.
 #include <array>
-#include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
-#include <functional>
 #include <iterator>
-#include <random>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -25,20 +18,15 @@
 
 #include <QTemporaryDir>
 
-#include "engine/commands/mGen.h"
 #include "engine/records/cScore.h"
-#include "engine/records/mPlayers.h"
 #include "engine/records/mScoreFile.h"
 #include "engine/state/cData.h"
 #include "support/Child.h"
-#include "tools/RandomPlayer.h"
 #include "window/outside/Program.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::SizeIs;
-using testing::UnorderedElementsAreArray;
 
 namespace {
 
@@ -77,8 +65,6 @@ protected:
         return numbers;
     }
 
-    [[nodiscard]] std::string Folder() const { return path_.substr(0, path_.rfind('/')); }
-
     std::string path_;
 
 private:
@@ -86,173 +72,6 @@ private:
     QByteArray before_;
     std::string settings_;
 };
-
-/// A step of some work; steps count on over all processes that do it. When it returns, the user has been
-/// told, in words or on the screen, that the step is done.
-using Step = std::function<void(int step)>;
-
-/// A process that works on and on, telling each step that was done, and never ends by itself.
-class EndlessWorker {
-public:
-    EndlessWorker(const Step& work, int first) {
-        std::array<int, 2> ends{};
-        if (::pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
-        child_ = StartChild([&] {
-            ::close(ends[0]);
-            const Program program;
-            for (int step = first;; ++step) {
-                work(step);
-                if (!program.Messages().empty()) return false;
-                if (::write(ends[1], &step, sizeof step) != sizeof step) return false;
-            }
-        });
-        ::close(ends[1]);
-        pipe_ = ends[0];
-    }
-    ~EndlessWorker() { ::close(pipe_); }
-    EndlessWorker(const EndlessWorker&) = delete;
-    EndlessWorker& operator=(const EndlessWorker&) = delete;
-
-    /// The next step told; 0 when the process has ended.
-    [[nodiscard]] int Told() const {
-        int step = 0;
-        return ::read(pipe_, &step, sizeof step) == sizeof step ? step : 0;
-    }
-    /// Answers whether it had run until then.
-    [[nodiscard]] bool Kill() const {
-        ::kill(child_, SIGKILL);
-        return WIFSIGNALED(EndOf(child_));
-    }
-
-private:
-    pid_t child_ = -1;
-    int pipe_ = -1;
-};
-
-class KilledWhile : public Durability {
-protected:
-    /// Kills the work at random moments. The next start must find what `last` or, where the kill came
-    /// after the writing and before the telling, the step behind it left: `find` answers which.
-    void Run(const Step& work, const std::function<int(int last)>& find) const {
-        const int kills = FromEnvironment("TARNIVAL_KILLS", 3);
-        std::mt19937 random(20041101);
-        std::uniform_int_distribution<int> pause(0, 20000);  // microseconds
-        int found = 0;
-        for (int run = 0; run < kills; ++run) {
-            SCOPED_TRACE(run);
-            const EndlessWorker worker(work, found + 1);
-            int last = worker.Told();
-            ASSERT_GT(last, 0) << "it did nothing";
-            std::this_thread::sleep_for(std::chrono::microseconds(pause(random)));
-            ASSERT_TRUE(worker.Kill());
-            for (int told = worker.Told(); told != 0; told = worker.Told()) last = told;
-            const Program program;
-            found = find(last);
-            ASSERT_GE(found, last);
-            ASSERT_LE(found, last + 1);
-            ASSERT_THAT(program.Messages(), IsEmpty());
-        }
-        RecordProperty("steps", found);
-    }
-    /// The last of the numbers 1, 2, 3 … in the file, each once and in order.
-    [[nodiscard]] int Counted() const {
-        const std::vector<int> numbers = Numbers();
-        for (std::size_t i = 0; i < numbers.size(); ++i) EXPECT_EQ(numbers[i], static_cast<int>(i) + 1);
-        return static_cast<int>(numbers.size());
-    }
-};
-
-TEST_F(KilledWhile, Recording) {
-    Run([](int step) { Program::Record(step); }, [this](int) { return Counted(); });
-}
-
-TEST_F(KilledWhile, DealingAndPlaying) {
-    Run(
-        [](int step) {
-            constexpr int Actions = 20;
-            RandomPlayer player(static_cast<std::uint32_t>(step));
-            mGen::StartGame(gData->GetGame(1 + step % gData->TotalGames()), static_cast<double>(step));
-            for (int i = 0; i < Actions && gData->Figures.GameRunning; ++i) player.Act();
-            if (gData->Figures.GameRunning) mGen::CloseGame(0);
-        },
-        [this](int) { return Counted(); });
-}
-
-TEST_F(KilledWhile, ChangingSettings) {
-    constexpr int Base = 1000;  // above the default
-    Run([](int step) { gData->Set(Setting::CustomColor, Base + step); },
-        [](int) { return gData->Get(Setting::CustomColor) - Base; });
-}
-
-TEST_F(KilledWhile, RenamingAPlayer) {
-    const auto name = [](int step) { return "Name" + std::to_string(step); };
-    {
-        const Program program;
-        gData->SetPlayer(1, name(0), true);
-        gData->SetPlayer(2, "Other", false);
-        for (int i = 1; i <= 3; ++i) Program::Record(i);
-    }
-    Run([&](int step) { (void)mPlayers::Enter(name(step - 1), name(step)); },
-        [&](int) {
-            const std::string player = gData->GetPlayer(1);
-            EXPECT_THAT(mPlayers::Names(), ElementsAre(player, "Other"));
-            EXPECT_EQ(gData->CurPlayer(), player);
-            gScore->OpenAllScore();
-            EXPECT_EQ(gScore->PlayerStat(player).Played, 3);
-            return std::stoi(player.substr(name(0).size() - 1));
-        });
-}
-
-TEST_F(KilledWhile, DeletingAndAddingPlayers) {
-    {
-        const Program program;
-        for (int i = 1; i <= 4; ++i)
-            gData->SetPlayer(i, std::string("ABCD", static_cast<std::size_t>(i)), i == 1);
-        gData->SetCurPlayer("ABCD");
-        Program::Record(1);
-        gData->SetCurPlayer("A");
-    }
-    const auto there = [] {
-        const std::vector<std::string> names = mPlayers::Names();
-        return std::find(names.begin(), names.end(), "AB") != names.end();
-    };
-    Run(
-        [&](int) {
-            if (there()) return mPlayers::Delete("AB");
-            (void)mPlayers::Enter("", "AB");
-        },
-        [&](int last) {
-            std::vector<std::string> expected{"A", "ABC", "ABCD"};
-            if (there()) expected.emplace_back("AB");
-            EXPECT_THAT(mPlayers::Names(), UnorderedElementsAreArray(expected));
-            gScore->OpenAllScore();
-            EXPECT_EQ(gScore->PlayerStat("ABCD").Played, 1);
-            EXPECT_EQ(gScore->ScoreTop(), 1);
-            return last;
-        });
-}
-
-TEST_F(KilledWhile, Exporting) {
-    const std::string file = Folder() + "/Scoreboard.txt";
-    const auto content = [&] {
-        std::ifstream stream(file, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(stream), {});
-    };
-    const auto write = [&](int) {
-        gScore->OpenAllScore();
-        if (!gScore->WriteStat(file)) throw std::runtime_error("no export");
-    };
-    {
-        const Program program;
-        for (int i = 1; i <= 100; ++i) Program::Record(i);
-        write(0);
-    }
-    const std::string whole = content();
-    Run(write, [&](int last) {
-        EXPECT_EQ(content(), whole);
-        return last;
-    });
-}
 
 TEST_F(Durability, TwoProgramsRecordIntoOneFile) {
     const int writes = FromEnvironment("TARNIVAL_WRITES", 200);

@@ -484,24 +484,6 @@ TEST_F(Settings, WhatCannotBeWrittenIsKeptReportedOnceAndWrittenLater) {
     EXPECT_THAT(reports_, SizeIs(1));
 }
 
-TEST_F(Settings, AFolderWithoutRightsKeepsValuesInMemory) {
-    Save(settings_, "a", "1");
-    const std::string before = Content(FileName());
-    ::chmod(FileName().c_str(), 0444);
-    ::chmod(Folder().c_str(), 0555);
-    EXPECT_TRUE(InChild([&] {
-        if (!BecomeNobody()) return false;
-        QtSettings store;
-        int reports = 0;
-        store.SetReport([&](const std::string&) { ++reports; });
-        Save(store, "a", "2");
-        Save(store, "b", "3");
-        return Get(store, "a") == "2" && Get(store, "b") == "3" && reports == 1;
-    }));
-    EXPECT_EQ(Content(FileName()), before);
-    ::chmod(Folder().c_str(), 0755);
-}
-
 TEST(Calendar, WritesTheSameDigitsInEveryLocaleAndZone) {
     const QByteArray zone = qEnvironmentVariableIsSet("TZ") ? qgetenv("TZ") : ":/etc/localtime";
     const QLocale before;
