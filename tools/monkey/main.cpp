@@ -142,7 +142,7 @@ std::unique_ptr<QTemporaryDir> MakeHome() {
 }
 
 /// The program from its splash to the end of its main window.
-void RunOnce(Monkey& monkey, MonkeyCalendar& calendar, long actions) {
+void RunOnce(Monkey& monkey, MonkeyCalendar& calendar, long most) {
     QApplication::setQuitOnLastWindowClosed(false);
     ProgramLayer program;
     const WindowLayer layer = program.Layer();
@@ -156,7 +156,7 @@ void RunOnce(Monkey& monkey, MonkeyCalendar& calendar, long actions) {
         window->Load();
         window->show();
         QApplication::setQuitOnLastWindowClosed(true);
-        monkey.Begin(window.get(), &calendar, actions);
+        monkey.Begin(window.get(), &calendar, most);
         frmSelect dialog;
         dialog.exec();
     };

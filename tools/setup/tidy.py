@@ -84,9 +84,11 @@ def main():
 
     def tidy(item):
         source, stamp = item
-        # The commands are g++'s; clang does not know all of its warnings.
+        # The commands are g++'s; clang does not know all of its warnings. The sanitizers' build reads eight sources
+        # as one, which takes a third of the time here too; only there a source is included.
         run = subprocess.run(["clang-tidy", "--quiet", "--extra-arg=-Wno-unknown-warning-option",
-                              "-p", build, source], capture_output=True, text=True)
+                              "--checks=-bugprone-suspicious-include", "-p", build, source],
+                             capture_output=True, text=True)
         if run.returncode == 0:
             stamp.touch()
         else:
