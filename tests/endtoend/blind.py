@@ -126,7 +126,8 @@ class Player:
             if here[:2] == (group, pile) and card in (None, here[2]):
                 return
             (x, y), (to_x, to_y) = corner(state, *here), corner(state, group, pile, card)
-            keys = sorted(ARROWS, key=lambda key: -ARROWS[key][0] * (to_x - x) - ARROWS[key][1] * (to_y - y))
+            # Past the piles first: a long pile lies between the ends of its neighbours.
+            keys = sorted(ARROWS, key=lambda key: -4 * ARROWS[key][0] * (to_x - x) - ARROWS[key][1] * (to_y - y))
             key = next((key for key in keys if (here, key) not in tried), None)
             if not key:
                 break
@@ -202,10 +203,7 @@ def play(screen, program_file, lab, moves_file):
             game.choose(name)
             for kind in (ByKeys, ByActions):
                 screen.settle()
-                game.keys("ctrl+F12")
-                game.type(number)
-                game.keys("Return")
-                wait_for("the deal of that number", lambda: screen.windows(rf"\[{number}\]"))
+                game.deal(number)
                 player = kind(reader, game, program)
                 player.told("dealt")
                 if kind is ByKeys:

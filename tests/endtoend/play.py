@@ -77,11 +77,8 @@ def expect(what, seen, wanted):
 
 def deal(game, number):
     """Deals the game that runs by a number, and finds its table on the screen."""
-    game.keys("ctrl+F12")
-    game.type(number)
-    game.keys("Return")
+    game.deal(number)
     title = rf"\[Klondike\] \[Player1\] \[{number}\]"
-    wait_for("the deal of that number", lambda: game.screen.windows(title))
     game.screen.settle()
     game.find_plate(title)
     return title

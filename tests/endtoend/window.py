@@ -138,6 +138,15 @@ class Game:
         self.screen.xdotool("key", "Return")
         wait_for(f"a game of {name}", lambda: self.screen.windows(rf"\[{name}\]"))
 
+    def deal(self, number):
+        """Deals the game that runs by a number."""
+        self.screen.xdotool("key", "ctrl+F12")
+        wait_for("the dialog for a number", lambda: self.screen.in_front("^Select a Game Number"))
+        self.screen.settle()
+        self.type(number)
+        self.keys("Return")
+        wait_for("the deal of that number", lambda: self.screen.windows(rf"\[{number}\]"))
+
     def leave(self):
         """Closes the program by its own key."""
         self.screen.xdotool("key", "alt+F4")
