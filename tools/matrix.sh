@@ -5,15 +5,17 @@
 #   tools/matrix.sh [release...]        as root; without a name: bookworm trixie testing
 #
 # A system is made with debootstrap in build/matrix (some 4 GB each) and stays there to be looked at; the next run
-# makes it anew. MATRIX_MIRROR and MATRIX_COMPONENTS name other sources, such as
+# makes it anew. MATRIX_USERS="player" leaves out the run as root. MATRIX_MIRROR and MATRIX_COMPONENTS name other
+# sources than debootstrap's own, such as
 #
 #   MATRIX_MIRROR=http://archive.ubuntu.com/ubuntu MATRIX_COMPONENTS=main,universe tools/matrix.sh noble
 set -euo pipefail
 # shellcheck source=setup/setup.sh
 . "$(dirname "$0")/setup/setup.sh"
 
-mirror=${MATRIX_MIRROR:-http://deb.debian.org/debian}
+mirror=${MATRIX_MIRROR:-}
 components=${MATRIX_COMPONENTS:-main}
+read -ra users <<<"${MATRIX_USERS:-player root}"
 work=$root/build/matrix
 table=()
 
@@ -163,7 +165,7 @@ try_release() {
     enter "$system" root "apt-get -q update && apt-get -qq install -y --no-install-recommends ccache" >>"$system.log" 2>&1
     copy_checkout "$system" player /home/player
     copy_checkout "$system" root /root
-    for user in player root; do
+    for user in "${users[@]}"; do
         say "$release: ./play as $user"
         from=$SECONDS play=fails
         if try_play "$system" "$user"; then play=$((SECONDS - from)); fi
