@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QLoggingCategory>
+#include <QWindow>
 
 #include "engine/commands/mLoad.h"
 #include "engine/state/cData.h"
@@ -62,6 +63,11 @@ int main(int argc, char** argv) {
         window->show();
         QApplication::setQuitOnLastWindowClosed(true);
         frmSelect dialog;
+        // It has no owner, and a Wayland desktop may lay a full screen over a window that belongs to nobody.
+        if (window->isFullScreen()) {
+            dialog.winId();
+            dialog.windowHandle()->setTransientParent(window->windowHandle());
+        }
         dialog.exec();
     };
     auto* splash = new frmSplash;
