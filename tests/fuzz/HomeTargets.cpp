@@ -204,7 +204,7 @@ void Home(std::string_view bytes) {
     const std::string paths[] = {records + "Player1.sre", records + "Bea.sre",
                                  records + "fav.dat",     records + " .sre",
                                  records + "\xFF.sre",    settings,
-                                 settings + ".lock",      settings + ".new",
+                                 settings + ".lock",      settings + ".unfinished",
                                  settings + ".damaged-1", home.Folder() + "/export.txt"};
     for (std::size_t i = 0; i + 1 < bytes.size() && i < 2 * std::size(paths); i += 2) {
         const std::string& path = paths[static_cast<unsigned char>(bytes[i]) % std::size(paths)];

@@ -213,7 +213,8 @@ FileError DiskFiles::Replace(const std::string& path, const std::string& content
     const bool existed = ::stat(target.c_str(), &old) == 0;
     if (existed && !S_ISREG(old.st_mode)) return "It is not a file";
 
-    std::string name = target + ".XXXXXX";
+    mDisk::SweepUnfinished(target);
+    std::string name = mDisk::UnfinishedName(target) + "XXXXXX";
     Descriptor file(::mkostemp(name.data(), O_CLOEXEC));
     if (!file.Valid()) return Cause(errno);
     FileError fault = mDisk::WriteAll(file.Number(), content);

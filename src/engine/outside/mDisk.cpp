@@ -4,8 +4,10 @@
 #include <cerrno>
 #include <chrono>
 #include <cstring>
+#include <ctime>
 #include <thread>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -77,6 +79,27 @@ FileError WriteAll(int descriptor, std::string_view text) {
         text.remove_prefix(static_cast<std::size_t>(written));
     }
     return std::nullopt;
+}
+
+std::string UnfinishedName(const std::string& target) { return target + ".unfinished."; }
+
+void SweepUnfinished(const std::string& target) {
+    constexpr std::size_t Random = 6;  // as many as mkstemp puts behind a name
+    constexpr std::time_t Age = 60;    // seconds
+    const std::string folder = FolderOf(target);
+    const std::string start = UnfinishedName(target.substr(target.rfind('/') + 1));
+    DIR* open = ::opendir(folder.c_str());
+    if (!open) return;
+    while (const dirent* entry = ::readdir(open)) {
+        const std::string_view name = entry->d_name;
+        struct stat status {};
+        if (name.size() == start.size() + Random && name.starts_with(start) &&
+            ::fstatat(::dirfd(open), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+            S_ISREG(status.st_mode) && status.st_mtime + Age < std::time(nullptr)) {
+            ::unlinkat(::dirfd(open), entry->d_name, 0);
+        }
+    }
+    ::closedir(open);
 }
 
 Turn Lock(int descriptor) {

@@ -50,6 +50,13 @@ void SyncFolder(const std::string& folder);
 [[nodiscard]] ssize_t WriteOnce(int descriptor, std::string_view text);
 [[nodiscard]] FileError WriteAll(int descriptor, std::string_view text);
 
+/// How a file is called before it takes the place of `target`, but for six characters that make each such
+/// name its own.
+[[nodiscard]] std::string UnfinishedName(const std::string& target);
+/// Removes files of such names that programs left which were killed: those that nobody has written to for a
+/// minute.
+void SweepUnfinished(const std::string& target);
+
 enum class Turn { Taken, Busy, NoLocks };
 /// Waits for other programs that hold the file, five seconds at most. A file system may know no locks.
 [[nodiscard]] Turn Lock(int descriptor);

@@ -10,6 +10,7 @@
 
 #include <sys/stat.h>
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
@@ -34,8 +35,8 @@ QString Text(const QVariant& value) {
     return parts.size() > 1 ? parts.join(QStringLiteral(", ")) : value.toString();
 }
 
-/// Nothing where QSettings cannot make sense of a text.
-std::optional<std::map<QString, QString>> Parse(const std::string& content) {
+/// Nothing where QSettings cannot make sense of a text; a cause where it could not even try.
+FileError Parse(const std::string& content, std::optional<std::map<QString, QString>>& found) {
     // Lines in the way of any system and editor, with or without its mark.
     std::string lines;
     mScoreFile::ForEachLine(content, [&lines](std::string_view line) {
@@ -45,14 +46,14 @@ std::optional<std::map<QString, QString>> Parse(const std::string& content) {
     // A copy of a new name: QSettings remembers a file by its name, and tells of a fault in it only once.
     QTemporaryFile copy;
     if (!copy.open() || copy.write(lines.data(), static_cast<qint64>(lines.size())) < 0 || !copy.flush()) {
-        return std::nullopt;
+        return "There is no room in " + QDir::tempPath().toStdString() + " for a copy to read";
     }
     const QSettings settings(copy.fileName(), QSettings::IniFormat);
     std::map<QString, QString> values;
     const QStringList paths = settings.allKeys();
     for (const QString& path : paths) values[path] = Text(settings.value(path));
-    if (settings.status() != QSettings::NoError) return std::nullopt;
-    return values;
+    if (settings.status() == QSettings::NoError) found = std::move(values);
+    return std::nullopt;
 }
 
 std::int64_t Nanoseconds(const std::timespec& time) {
@@ -139,7 +140,8 @@ void QtSettings::Load(File& file, Purpose purpose) const {
         file.Blocked = DiskFiles::Read(file.Name, content, MostBytes);
         if (file.Blocked) return;  // what was read before still stands
         if (again && content == file.Content) return;
-        values = Parse(content);
+        file.Blocked = Parse(content, values);
+        if (file.Blocked) return;
     } else if (file.Blocked = DiskFiles().Protection(file.Name); file.Blocked) {
         return;
     }
@@ -205,9 +207,12 @@ FileError QtSettings::PutOnDisk(const std::string& name, const Values& values) {
     // Through a link, so that a file which the user keeps elsewhere is not replaced by a plain one.
     const QFileInfo info(QString::fromStdString(name));
     const QString target = info.exists() ? info.canonicalFilePath() : info.filePath();
-    const QString fresh = target + QStringLiteral(".new");
+    // QSettings writes it as such a name's own file first.
+    const std::string unfinished = mDisk::UnfinishedName(target.toStdString());
+    const QString fresh = QString::fromStdString(unfinished.substr(0, unfinished.size() - 1));
     {
         // What a program that was killed may have left. QSettings would wait half a minute for its lock.
+        mDisk::SweepUnfinished(target.toStdString());
         QFile::remove(fresh);
         QFile::remove(fresh + QStringLiteral(".lock"));
         QSettings settings(fresh, QSettings::IniFormat);

@@ -43,7 +43,7 @@ protected:
     void TearDown() override {
         qputenv("XDG_DATA_HOME", before_);
         // The folder of the settings is Qt's, one for all tests.
-        for (const char* end : {"", ".new", ".lock"}) std::remove((settings_ + end).c_str());
+        for (const char* end : {"", ".unfinished", ".lock"}) std::remove((settings_ + end).c_str());
     }
 
     [[nodiscard]] std::string Content() const {

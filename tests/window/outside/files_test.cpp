@@ -17,6 +17,7 @@
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utime.h>
 
 #include <QDir>
 #include <QSettings>
@@ -215,6 +216,21 @@ TEST_F(Files, ReplacePutsAllOrNothingInPlace) {
     EXPECT_THAT(Names(Folder()), ElementsAre("fav.dat", "link"));
 }
 
+// Only what nobody else can have made or be making is swept.
+TEST_F(Files, WhatAKilledProgramWasWritingIsSweptByTheNextWrite) {
+    const std::string names[] = {"fav.dat.unfinished.a1B2c3", "fav.dat.unfinished.notes", "fav.dat.a1B2c3",
+                                 "other.unfinished.a1B2c3"};
+    for (const std::string& name : names) {
+        Put(Path(name), "half");
+        const utimbuf hourAgo{.actime = ::time(nullptr) - 3600, .modtime = ::time(nullptr) - 3600};
+        ASSERT_EQ(::utime(Path(name).c_str(), &hourAgo), 0);
+    }
+    Put(Path("fav.dat.unfinished.young1"), "being written");
+    EXPECT_EQ(files_.Replace(Path("fav.dat"), "whole"), std::nullopt);
+    EXPECT_THAT(Names(Folder()), testing::UnorderedElementsAre("fav.dat", "fav.dat.unfinished.young1",
+                                                               names[1], names[2], names[3]));
+}
+
 TEST_F(Files, RenameNeverOverwrites) {
     Put(Path("from"), "1");
     Put(Path("to"), "2");
@@ -386,6 +402,21 @@ TEST_F(Settings, WhatIsNoSettingsFileIsToldAndKeepsNobodyWaiting) {
     struct stat status {};
     ASSERT_EQ(::stat((FileName() + ".damaged-1").c_str(), &status), 0);
     EXPECT_EQ(status.st_size, off_t{1} << 40) << "kept as it is";
+}
+
+TEST_F(Settings, AreNotTakenForDamagedWhereNoCopyCanBeMade) {
+    Save(settings_, "Zoom", "1.5");
+    const QByteArray before = qgetenv("TMPDIR");
+    qputenv("TMPDIR", "/proc/self");  // where nobody can make a file
+    QtSettings other;
+    other.SetReport([this](const std::string& text) { reports_.push_back(text); });
+    EXPECT_EQ(Get(other, "Zoom"), "default");
+    Save(other, "Zoom", "2");
+    before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+    EXPECT_THAT(reports_, ElementsAre(HasSubstr("There is no room in"), HasSubstr("could not be written")));
+    EXPECT_EQ(Get(settings_, "Zoom"), "1.5");
+    Save(other, "Deck", "502");
+    EXPECT_EQ(Get(settings_, "Zoom"), "2") << "what was kept is written";
 }
 
 TEST_F(Settings, AStepIsAloneAndAllOrNothing) {

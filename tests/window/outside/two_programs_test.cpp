@@ -169,7 +169,7 @@ protected:
     }
     void TearDown() override {
         qputenv("XDG_DATA_HOME", before_);
-        for (const char* end : {"", ".new", ".lock"}) std::remove((store_ + end).c_str());
+        for (const char* end : {"", ".unfinished", ".lock"}) std::remove((store_ + end).c_str());
     }
 
     [[nodiscard]] std::string JournalPath() const {
