@@ -1,6 +1,7 @@
 // What the tests of the main window share: the window over an outside in memory, and the mouse on it.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -23,6 +24,11 @@
 class WindowForms : public MemoryForms {
 public:
     frmMain* Window = nullptr;
+    std::function<void(const std::string&)> OnAsk;
+    bool Ask(const std::string& question) override {
+        if (OnAsk) OnAsk(question);
+        return MemoryForms::Ask(question);
+    }
     void SetCaption(const std::string& caption) override {
         if (Window) Window->setWindowTitle(QString::fromStdString(caption));
     }

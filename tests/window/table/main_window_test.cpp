@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <functional>
 
 #include <QLabel>
@@ -18,6 +19,9 @@
 #include "engine/state/cGames.h"
 #include "engine/state/cTrans.h"
 #include "window/MainWindowTest.h"
+
+using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -222,6 +226,17 @@ TEST_F(MainWindow, ClosingTheWindowRecordsARunningGameAsLost) {
     EXPECT_EQ(gData, nullptr);
     const std::string& file = memory_.Files.Contents["/data/Kelmor/Tarnival 2004 11.0/Player1.sre"];
     EXPECT_EQ(file, "\"2004-01-01 00:00:00\",\"Klondike\",1,0,0,0,0\r\n");
+}
+
+// The menu's "E&xit" ends a copy of this process.
+TEST_F(MainWindow, ExitAsksForARecordThatWaitsAndForNothingElse) {
+    forms_.OnAsk = [](const std::string& question) { std::fputs(question.c_str(), stderr); };
+    mGen::StartGame("Klondike", 1.0);
+    EXPECT_EXIT(Entry("mFile11")->trigger(), testing::ExitedWithCode(0), Not(HasSubstr("lost")));
+    memory_.Files.Fault = "No space left on device";
+    mMain::CloseGame();
+    EXPECT_EXIT(Entry("mFile11")->trigger(), testing::ExitedWithCode(0),
+                HasSubstr("will be lost.\nTry again?"));
 }
 
 }  // namespace
