@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTableView>
@@ -85,6 +86,18 @@ void ShowTabs(const QWidget& dialog) {
     }
 }
 
+/// By each heading, the other way round, and back.
+void Sort(const QWidget& dialog) {
+    QHeaderView* headings = dialog.findChild<QTableView*>()->horizontalHeader();
+    for (int column = 0; column < headings->count(); ++column) {
+        const std::string name =
+            headings->model()->headerData(column, Qt::Horizontal).toString().toStdString();
+        for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder})
+            Measure("sorted by " + name, [&] { headings->setSortIndicator(column, order); });
+    }
+    Measure("as it was", [&] { headings->setSortIndicator(-1, Qt::AscendingOrder); });
+}
+
 void Scroll(const QWidget& dialog) {
     constexpr int Steps = 100;
     constexpr double StepLimit = 16.0;  // a refresh of the screen
@@ -123,6 +136,7 @@ void Run(const RecordPlan& plan) {
     {
         const auto dialog = Open<frmLogStat>("frmLogStat", limit);
         for (const char* combo : {"imcDate", "imcPlayer", "cmGames"}) Choose(*dialog, combo);
+        Sort(*dialog);
         Scroll(*dialog);
     }
     ShowTabs(*Open<frmSesStat>("frmSesStat", ViewLimit));

@@ -8,6 +8,7 @@
 #include "StoreBench.h"
 #include "engine/records/mLog.h"
 #include "engine/records/mRanking.h"
+#include "engine/records/mSorting.h"
 #include "engine/records/mStatistics.h"
 #include "mFigures.h"
 
@@ -65,6 +66,15 @@ void Run(const RecordPlan& plan) {
                   rows += mLog::Row(gScore->GetScore(i), dates).size();
               }
           }));
+    std::vector<int> all = mLog::Select(mLog::AllPlayers, mLog::AllGames, mLog::ShowAll);
+    const auto ranks = [](const std::vector<std::string>& names) {
+        return std::vector<double>(names.size(), 1.0);
+    };
+    for (int column = 0; column < static_cast<int>(mLog::Columns.size()); ++column) {
+        Print((std::string("log: sorted by ") + mLog::Columns.at(static_cast<std::size_t>(column))).c_str(),
+              Milliseconds(
+                  [&] { rows += mSorting::Order(mLog::Keys(all, column, dates, ranks), true).size(); }));
+    }
     mFigures::Print("export",
                     Milliseconds([&] { rows += gScore->WriteStat(store.Folder + "/export.txt") ? 1 : 0; }),
                     "ms");

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <exception>
 #include <limits>
+#include <optional>
 #include <utility>
 
 #include "engine/catalogue/families.h"
@@ -27,6 +28,11 @@ namespace {
 
 int openActions = 0;
 AfterGame wanted = AfterGame::Nothing;  // what the end-of-game dialog asked for
+struct WantedDeal {
+    std::string Name;
+    GameNumber Number;
+};
+std::optional<WantedDeal> wantedDeal;  // asked for out of a list, perhaps over that dialog
 
 // Autoplay and win check, after every move.
 void AfterMove(bool autoplay) {
@@ -61,6 +67,11 @@ FinishSummary Summary() {
 }
 
 void RunWanted() {
+    if (const auto deal = std::exchange(wantedDeal, std::nullopt)) {
+        wanted = AfterGame::Nothing;
+        StartGame(deal->Name, deal->Number);
+        return;
+    }
     switch (std::exchange(wanted, AfterGame::Nothing)) {
         case AfterGame::Nothing:
             break;
@@ -132,6 +143,7 @@ void ReleaseAll() {
     gTrans = nullptr;
     gRunning = {};
     wanted = AfterGame::Nothing;
+    wantedDeal.reset();
 }
 
 void RefreshRecent() {
@@ -183,6 +195,11 @@ void Start(const std::string& name, const GameNumber& number, const std::vector<
 
 void StartGame(const std::string& name, const GameNumber& number) { Start(name, number, nullptr); }
 
+void StartAfter(const std::string& name, const GameNumber& number) {
+    const Action action;
+    wantedDeal = {name, number};
+}
+
 void StartDeck(const std::string& name, const std::vector<int>& deck) { Start(name, 0.0, &deck); }
 
 void CloseGame(int mWon) {
@@ -227,7 +244,7 @@ Action::Action() : exceptions_(std::uncaught_exceptions()) { ++openActions; }
 Action::~Action() noexcept(false) {
     --openActions;
     if (std::uncaught_exceptions() > exceptions_) return;
-    if (openActions == 0 && wanted != AfterGame::Nothing) RunWanted();
+    if (openActions == 0 && (wantedDeal || wanted != AfterGame::Nothing)) RunWanted();
 }
 
 AsideGame::AsideGame() : saved_(gRunning) {

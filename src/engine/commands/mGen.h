@@ -18,6 +18,8 @@ void ReleaseAll();
 /// Closes a running game as lost and starts another. Ignored while cards are being dealt, and for a
 /// name that is in no family: the table stays as it is.
 void StartGame(const std::string& name, const GameNumber& number);
+/// The same as soon as the action of the player that is under way is done with; at once where none is.
+void StartAfter(const std::string& name, const GameNumber& number);
 /// The same with the number 0 and a deck that was made elsewhere in place of its shuffle: the card values by
 /// PicID, a permutation of 0 to TotalCards - 1. What the deal draws is that of the number 0.
 void StartDeck(const std::string& name, const std::vector<int>& deck);

@@ -7,7 +7,7 @@
 
 #include "engine/commands/mGen.h"
 #include "engine/commands/mSpoken.h"
-#include "engine/records/cScore.h"
+#include "engine/records/mFavourites.h"
 #include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
 #include "engine/state/cArray.h"
@@ -190,10 +190,7 @@ void FlipToolbar() {
 
 void AddFavourite() {
     const SessionFigures& figures = gData->Figures;
-    if (!figures.GameRunning) return;
-    if (!gScore->AddFav(figures.CurGName, figures.CurGNo)) return;
-    gData->Layer().Forms.Inform("Game <" + mGameNumber::Text(figures.CurGNo) +
-                                "> Successfully Added to Favorites Under <" + figures.CurGName + "> Folder");
+    if (figures.GameRunning) mFavourites::Add(figures.CurGName, figures.CurGNo);
 }
 
 Replay ReplayState() { return replay; }

@@ -51,4 +51,12 @@ void PlayFavourite(const std::string& game, const std::string& number) {
     if (!mGen::Dealing()) mGen::StartGame(game, number);
 }
 
+bool MayPlay(const tFav& deal) {
+    if (mGen::Dealing() || gData->GetGameID(deal.mName) == 0) return false;
+    if (!gData->Figures.GameRunning) return true;
+    return gData->Layer().Forms.Ask(
+        "The running game will be recorded as lost. Do you want to play the deal " +
+        mGameNumber::Text(deal.mGno) + " of " + deal.mName + " now ?");
+}
+
 }  // namespace mSelect

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "engine/records/PlayerList.h"
+#include "engine/records/tScore.h"
 
 namespace mSelect {
 
@@ -22,5 +23,8 @@ bool Play(const ShownPlayer& player, const std::string& game);
 bool PlayNumber(const ShownPlayer& player, const std::string& game, const std::string& typed);
 /// Starts a favourite deal; the number goes on as the text that it is. Nothing while cards are being dealt.
 void PlayFavourite(const std::string& game, const std::string& number);
+/// Whether a deal out of a list may be played now: it must be one, and where a game runs the player is asked
+/// whether to give it up.
+[[nodiscard]] bool MayPlay(const tFav& deal);
 
 }  // namespace mSelect

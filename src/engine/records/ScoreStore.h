@@ -35,6 +35,7 @@ public:
     /// None for a name that is not there.
     [[nodiscard]] std::uint32_t Find(std::string_view name) const;
     [[nodiscard]] const std::string& Name(std::uint32_t number) const { return names_[number]; }
+    [[nodiscard]] const std::vector<std::string>& Names() const { return names_; }
 
 private:
     struct Hash {

@@ -53,6 +53,8 @@ public:
     void ReportUnread();
 
     [[nodiscard]] int ScoreTop() const { return store_.Size(); }
+    /// What is loaded, for who walks over all of it.
+    [[nodiscard]] const ScoreStore& Store() const { return store_; }
     /// 1 to ScoreTop; outside throws std::out_of_range.
     [[nodiscard]] tScore GetScore(int i) const;
     /// The n-th record of a game in store order; an empty record where there are fewer.

@@ -20,6 +20,12 @@ std::vector<std::string> Numbers(const std::string& gName) {
     return numbers;
 }
 
+void Add(const std::string& gName, const GameNumber& number) {
+    if (!gScore->AddFav(gName, number)) return;
+    gData->Layer().Forms.Inform("Game <" + mGameNumber::Text(number) +
+                                "> Successfully Added to Favorites Under <" + gName + "> Folder");
+}
+
 bool CanClear() { return gScore->FavTop() > 0; }
 
 void Clear() {

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "engine/state/GameNumber.h"
+
 namespace mFavourites {
 
 /// Reads the favourites of all games anew, and reports what could not be read.
@@ -11,6 +13,8 @@ void Open();
 /// The numbers of that game's favourites as texts, in the order of adding; equal ones stand as often as
 /// they were added.
 [[nodiscard]] std::vector<std::string> Numbers(const std::string& gName);
+/// Adds a deal and tells so. One that cannot be written yet is told of as such.
+void Add(const std::string& gName, const GameNumber& number);
 /// Whether there is something to clear.
 [[nodiscard]] bool CanClear();
 /// Deletes the favourites of all games, without a question.

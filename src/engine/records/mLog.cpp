@@ -5,10 +5,26 @@
 #include <stdexcept>
 
 #include "engine/records/cScore.h"
+#include "engine/records/mSorting.h"
 #include "engine/records/mStatistics.h"
 #include "engine/rules/mFunc.h"
 
 namespace {
+
+using Entry = ScoreStore::Entry;
+
+double MomentOf(const Entry& entry, const ScoreStore& store, const RegionalDates& dates) {
+    constexpr double Day = 24.0 * 60 * 60;
+    if (entry.Day == ScoreStore::NoDay) return mSorting::None;
+    if (entry.FixedDate) return entry.Day * Day + entry.Moment;
+    const std::optional<CivilTime> time = dates.Read(store.DateText(entry));
+    return time ? static_cast<double>(mDates::Seconds(*time)) : entry.Day * Day;
+}
+
+double NumberOf(const Entry& entry, const ScoreStore& store) {
+    if (entry.Kind != Entry::NumberKind::Text) return entry.Number;
+    return mGameNumber::Parse(std::get<std::string>(store.Record(entry).GameNo)).value_or(mSorting::None);
+}
 
 /// The days on which a record may lie. A difference counts boundaries, so that a month back reaches to
 /// that month's first day, and the present month counts to its end.
@@ -42,6 +58,33 @@ std::vector<std::string> Row(const tScore& record, const RegionalDates& dates) {
             std::to_string(record.Moves),
             mStatistics::StatusStr(record.Won),
             mGameNumber::Text(record.GameNo)};
+}
+
+std::vector<double> Keys(const std::vector<int>& indexes, int column, const RegionalDates& dates,
+                         const Ranks& ranks) {
+    const ScoreStore& store = gScore->Store();
+    const std::string_view heading = Columns.at(static_cast<std::size_t>(column));
+    const auto each = [&](auto key) {
+        std::vector<double> keys;
+        keys.reserve(indexes.size());
+        for (const int index : indexes)
+            keys.push_back(key(store.Entries().at(static_cast<std::size_t>(index - 1))));
+        return keys;
+    };
+    if (heading == "Date") return each([&](const Entry& entry) { return MomentOf(entry, store, dates); });
+    if (heading == "Player") {
+        const std::vector<double> places = ranks(store.Players().Names());
+        return each([&](const Entry& entry) { return places.at(entry.Player); });
+    }
+    if (heading == "Game") {
+        const std::vector<double> places = ranks(store.Games().Names());
+        return each([&](const Entry& entry) { return places.at(entry.Game); });
+    }
+    if (heading == "Score") return each([](const Entry& entry) -> double { return entry.Score; });
+    if (heading == "Time") return each([](const Entry& entry) -> double { return entry.Time; });
+    if (heading == "Moves") return each([](const Entry& entry) -> double { return entry.Moves; });
+    if (heading == "Status") return each([](const Entry& entry) { return entry.Won == 1 ? 1.0 : 0.0; });
+    return each([&](const Entry& entry) { return NumberOf(entry, store); });
 }
 
 }  // namespace mLog

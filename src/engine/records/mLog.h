@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,5 +42,12 @@ inline constexpr std::array<DateChoice, 7> DateChoices{{
 
 /// The cells of a record; `dates` is the region's format, made once for a whole list.
 [[nodiscard]] std::vector<std::string> Row(const tScore& record, const RegionalDates& dates);
+
+/// Numbers for names, by which these sort.
+using Ranks = std::function<std::vector<double>(const std::vector<std::string>& names)>;
+/// What these records sort by in a column, mSorting::None where nothing can be read. Records of one day sort
+/// by the time of day.
+[[nodiscard]] std::vector<double> Keys(const std::vector<int>& indexes, int column,
+                                       const RegionalDates& dates, const Ranks& ranks);
 
 }  // namespace mLog

@@ -7,6 +7,7 @@
 #include <QStyledItemDelegate>
 #include <QTreeView>
 
+#include "window/controls/ListCommands.h"
 #include "window/controls/SeenView.h"
 #include "window/controls/mDialog.h"
 
@@ -32,7 +33,9 @@ private:
 }  // namespace
 
 ListModel::ListModel(QString heading, const QIcon& icon, Qt::AlignmentFlag side)
-    : TableModel({{.Heading = std::move(heading), .Side = side}}) {
+    : TableModel({{.Heading = std::move(heading),
+                   .Side = side,
+                   .Values = side == Qt::AlignRight ? mSorting::Values::Number : mSorting::Values::Text}}) {
     SetIcon(icon);
 }
 
@@ -45,7 +48,7 @@ void ListModel::SetTexts(const std::vector<std::string>& texts) {
 
 int ListModel::Row(const QString& text) const {
     for (int row = 0; row < rowCount(); ++row) {
-        if (Text(row, 0) == text) return row;
+        if (Text(GivenRow(row), 0) == text) return row;
     }
     return -1;
 }
@@ -63,8 +66,11 @@ QTreeView* MakeView(const char* name, ListModel* model) {
     view->setModel(model);
     model->setParent(view);
     view->setHeaderHidden(model->headerData(0, Qt::Horizontal, Qt::DisplayRole).toString().isEmpty());
+    new ListCommands(view, view->header(), model);
     return view;
 }
+
+ListCommands* Commands(const QTreeView* view) { return view->findChild<ListCommands*>(); }
 
 QString Selected(const QTreeView* view) {
     const QModelIndexList rows = view->selectionModel()->selectedRows();

@@ -13,10 +13,11 @@ public:
     explicit ListModel(QString heading, const QIcon& icon = {}, Qt::AlignmentFlag side = Qt::AlignLeft);
 
     void SetTexts(const std::vector<std::string>& texts);
-    /// -1 where no row has that text.
+    /// Where the row of a text is shown; -1 where no row has it.
     [[nodiscard]] int Row(const QString& text) const;
 };
 
+class ListCommands;
 class QTreeView;
 
 namespace mList {
@@ -24,6 +25,8 @@ namespace mList {
 /// A view of one column with that object name, as a list: no branches, no editing, rows of one height. An
 /// empty heading shows none.
 [[nodiscard]] QTreeView* MakeView(const char* name, ListModel* model);
+/// What a view that is made here offers beside its rows.
+[[nodiscard]] ListCommands* Commands(const QTreeView* view);
 /// The text of the selected row; empty where none is selected.
 [[nodiscard]] QString Selected(const QTreeView* view);
 /// Selects a row and brings it into sight; -1 selects none.

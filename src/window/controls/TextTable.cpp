@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 
+#include "window/controls/ListCommands.h"
 #include "window/controls/TableModel.h"
 #include "window/controls/mDialog.h"
 
@@ -71,16 +72,16 @@ TextTable::TextTable(const char* name, TableModel* model) : rows_(model) {
     setTabKeyNavigation(false);  // Tab leaves the table
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionBehavior(QAbstractItemView::SelectRows);
-    setSelectionMode(QAbstractItemView::SingleSelection);
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
     verticalHeader()->hide();
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     setHorizontalHeader(new Headings(this));
     setItemDelegate(new Cells(this));
     horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsClickable(false);
     SizeRows();
     setModel(model);
+    commands_ = new ListCommands(this, horizontalHeader(), model);
     connect(model, &TableModel::headerDataChanged, this, [this] {
         MeasureColumns();
         SpreadColumns();

@@ -7,19 +7,21 @@
 
 #include "window/controls/SeenView.h"
 
+class ListCommands;
 class TableModel;
 
-/// Rows of one height that are selected as a whole, headings that sort nothing. Columns have room for
-/// their heading and texts in any font, and share what the view is wider than that. A million rows cost
-/// no more than those in sight.
+/// Rows of one height that are selected as a whole, any number of them, under headings that sort. Columns
+/// have room for their heading and texts in any font, and share what the view is wider than that. A million
+/// rows cost no more than those in sight.
 class TextTable : public SeenView<QTableView> {
     Q_OBJECT
 public:
     /// Takes the model over.
     TextTable(const char* name, TableModel* model);
 
-    /// Selects a row and brings it into sight.
+    /// Selects the row shown at that place and brings it into sight.
     void Select(int row);
+    [[nodiscard]] ListCommands* Commands() const { return commands_; }
 
     /// As wide as all columns need.
     [[nodiscard]] QSize sizeHint() const override;
@@ -38,5 +40,6 @@ private:
     void SpreadColumns();
 
     TableModel* rows_;
+    ListCommands* commands_ = nullptr;
     std::vector<int> needed_;  // pixels, a column each
 };

@@ -9,10 +9,14 @@ namespace {
 
 std::vector<TableColumn> HistoryColumns() {
     const QStringList place{HistoryModel::tr("Foundation (Pile 18, Card 104)")};
-    return {{.Heading = {}, .Side = Qt::AlignRight, .Usual = {QStringLiteral("00000")}},
-            {.Heading = HistoryModel::tr("Source"), .Usual = place},
-            {.Heading = HistoryModel::tr("Destination"), .Usual = place},
-            {.Heading = HistoryModel::tr("Cards"), .Side = Qt::AlignRight}};
+    return {
+        {.Heading = {},
+         .Side = Qt::AlignRight,
+         .Usual = {QStringLiteral("00000")},
+         .Values = mSorting::Values::Number},
+        {.Heading = HistoryModel::tr("Source"), .Usual = place},
+        {.Heading = HistoryModel::tr("Destination"), .Usual = place},
+        {.Heading = HistoryModel::tr("Cards"), .Side = Qt::AlignRight, .Values = mSorting::Values::Number}};
 }
 
 }  // namespace
@@ -33,8 +37,9 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::AccessibleTextRole || !index.isValid() || index.column() != 0)
         return TableModel::data(index, role);
     // What the colours show.
-    const QString number = Text(index.row(), 0);
-    switch (rows_.at(static_cast<std::size_t>(index.row())).Style) {
+    const int row = GivenRow(index.row());
+    const QString number = Text(row, 0);
+    switch (rows_.at(static_cast<std::size_t>(row)).Style) {
         case HistoryStyle::Current:
             return tr("%1, the last move").arg(number);
         case HistoryStyle::Undone:

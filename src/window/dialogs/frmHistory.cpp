@@ -35,7 +35,7 @@ frmHistory::frmHistory(QWidget* owner) : QDialog(owner) {
 void frmHistory::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (rows_->CurrentRow() < 0) return;
-    const QModelIndex current = rows_->index(rows_->CurrentRow(), 0);
+    const QModelIndex current = rows_->index(rows_->ShownRow(rows_->CurrentRow()), 0);
     // Not selected: the selection would hide the colour of the row.
     lvHistory->selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     lvHistory->scrollTo(current, QAbstractItemView::PositionAtCenter);

@@ -10,10 +10,10 @@
 LogModel::LogModel() : TableModel(mColumns::Of(mLog::Columns)), dates_(RegionalDates::Current()) {}
 
 void LogModel::SetRecords(std::vector<int> indexes) {
-    beginResetModel();
+    BeginRows();
     indexes_ = std::move(indexes);
     madeRow_ = -1;
-    endResetModel();
+    EndRows();
 }
 
 int LogModel::rowCount(const QModelIndex& parent) const {
@@ -26,4 +26,13 @@ QString LogModel::Text(int row, int column) const {
         madeRow_ = row;
     }
     return QString::fromStdString(made_.at(static_cast<std::size_t>(column)));
+}
+
+std::vector<double> LogModel::Keys(int column) const {
+    return mLog::Keys(indexes_, column, dates_, [](const std::vector<std::string>& names) {
+        std::vector<QString> texts;
+        texts.reserve(names.size());
+        for (const std::string& name : names) texts.push_back(QString::fromStdString(name));
+        return Ranks(texts);
+    });
 }

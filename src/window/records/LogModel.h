@@ -20,6 +20,7 @@ public:
 
 protected:
     [[nodiscard]] QString Text(int row, int column) const override;
+    [[nodiscard]] std::vector<double> Keys(int column) const override;
 
 private:
     std::vector<int> indexes_;

@@ -43,6 +43,8 @@ void FitWidth(QTreeView* list) {
 
 /// Selects the row of a game or player, and brings it into sight.
 void SelectNamed(TextTable* table, const QString& name) {
+    // A row that is current may be one of several that are selected.
+    if (table->currentIndex().siblingAtColumn(0).data().toString() == name) return;
     const QModelIndexList found = table->model()->match(table->model()->index(0, 0), Qt::DisplayRole, name, 1,
                                                         Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (!found.isEmpty()) table->Select(found.constFirst().row());
@@ -114,6 +116,7 @@ QWidget* frmGameStat::BuildGeneral() {
     general_ = new ListModel(QString());
     lvGeneral = mList::MakeView("lvGeneral", general_);
     lvGeneral->setAccessibleName(tr("General Summary"));
+    lvGeneral->setSelectionMode(QAbstractItemView::ExtendedSelection);  // to be copied
     chGen = new ChartView("chGen", tr("Games won and lost"), Kind::Result);
     chGen1 = new ChartView("chGen1", tr("Score, moves and time"), Kind::Effort);
     auto* all = new QHBoxLayout(Frame2);

@@ -70,6 +70,7 @@ TableModel* frmHighScore::AddTab(const QString& title, const char* name,
     auto* rows = new TableModel(mColumns::Of(headings));
     auto* table = new TextTable(name, rows);
     table->setAccessibleName(title);
+    mColumns::OfferDeals(table, rows, [this] { return imcGames->currentText(); });
     auto* page = new QWidget;
     auto* layout = new QVBoxLayout(page);
     if (choice) layout->addLayout(choice);

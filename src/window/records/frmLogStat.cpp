@@ -14,6 +14,7 @@
 #include "window/controls/mDialog.h"
 #include "window/look/ilsIcons.h"
 #include "window/records/LogModel.h"
+#include "window/records/mColumns.h"
 
 frmLogStat::frmLogStat(QWidget* owner) : QDialog(owner) {
     setObjectName(QStringLiteral("frmLogStat"));
@@ -43,6 +44,7 @@ void frmLogStat::BuildControls() {
     log_ = new LogModel;
     lvLog = new TextTable("lvLog", log_);
     lvLog->setAccessibleName(tr("Games"));
+    mColumns::OfferDeals(lvLog, log_);
     cmdClose = new QPushButton(tr("Close"));
     cmdClose->setObjectName(QStringLiteral("cmdClose"));
     auto* buttons = new QDialogButtonBox;

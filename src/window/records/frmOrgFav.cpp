@@ -9,6 +9,7 @@
 
 #include "engine/records/mFavourites.h"
 #include "engine/state/cData.h"
+#include "window/controls/ListCommands.h"
 #include "window/controls/ListModel.h"
 #include "window/controls/mDialog.h"
 #include "window/look/ilsIcons.h"
@@ -35,6 +36,12 @@ void frmOrgFav::BuildControls() {
     favourites_ = new ListModel(tr("Game Number"), {}, Qt::AlignRight);
     lvFav = mList::MakeView("lvFav", favourites_);
     lvFav->setAccessibleName(tr("Favorites of the game"));
+    lvFav->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    mList::Commands(lvFav)->OfferDeals(
+        [this](int row) -> std::optional<tFav> {
+            return tFav{mList::Selected(lvGames).toStdString(), favourites_->CellText(row, 0).toStdString()};
+        },
+        ListCommands::Offer::Play);
 
     cmdClear = new QPushButton(tr("Clear Favorites"));
     cmdClear->setObjectName(QStringLiteral("cmdClear"));

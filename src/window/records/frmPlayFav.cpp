@@ -11,6 +11,7 @@
 #include "engine/commands/mSelect.h"
 #include "engine/records/mFavourites.h"
 #include "engine/state/cData.h"
+#include "window/controls/ListCommands.h"
 #include "window/controls/ListModel.h"
 #include "window/controls/mDialog.h"
 #include "window/look/ilsIcons.h"
@@ -33,6 +34,11 @@ void frmPlayFav::BuildControls() {
     favourites_ = new ListModel(QString(), {}, Qt::AlignRight);
     lvFav = mList::MakeView("lvFav", favourites_);
     lvFav->setAccessibleName(tr("Favorites of the game"));
+    mList::Commands(lvFav)->OfferDeals(
+        [this](int row) -> std::optional<tFav> {
+            return tFav{cmGames->currentText().toStdString(), favourites_->CellText(row, 0).toStdString()};
+        },
+        ListCommands::Offer::Play);
 
     cmdPlay = new QPushButton(tr("Play"));
     cmdPlay->setObjectName(QStringLiteral("cmdPlay"));

@@ -94,6 +94,7 @@ QWidget* frmSesStat::BuildSummary() {
     session_->SetRows(mSession::SessionRows());
     lvSession = new TextTable("lvSession", session_);
     lvSession->setAccessibleName(tr("Games of this session"));
+    mColumns::OfferDeals(lvSession, session_);
     chSummary = new ChartView("chSummary", tr("Games won and lost"), mPlot::Kind::Result);
     chSummary->SetData(mSession::SummaryChart());
 
@@ -142,7 +143,8 @@ void frmSesStat::MarkRunning() {
 void frmSesStat::ShowRunning() {
     if (runningRow_ < 0) return;
     TextTable* table = SSTab1->currentIndex() == 0 ? lvSession : lvSesChart;
-    table->scrollTo(table->model()->index(runningRow_, 0));
+    const TableModel* rows = table == lvSession ? session_ : details_;
+    table->scrollTo(rows->index(rows->ShownRow(runningRow_), 0));
 }
 
 void frmSesStat::showEvent(QShowEvent* event) {

@@ -3,11 +3,15 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 #include "engine/records/RegionalDates.h"
 #include "engine/records/mPlayers.h"
 #include "engine/state/cData.h"
+#include "window/controls/ListCommands.h"
+#include "window/controls/TextTable.h"
 
 namespace {
 
@@ -47,8 +51,18 @@ QStringList Figures(std::string_view heading) {
     return {};
 }
 
+mSorting::Values ValuesOf(std::string_view heading) {
+    using mSorting::Values;
+    if (heading == "Date") return Values::Date;
+    if (heading == "Time") return Values::Time;
+    if (heading == "Day" || heading == "Month" || heading == "Year") return Values::Given;
+    if (heading == "Game" || heading == "Player" || heading == "Status") return Values::Text;
+    return Values::Number;
+}
+
 TableColumn Column(std::string_view heading) {
     TableColumn column{.Heading = QString::fromUtf8(heading.data(), static_cast<qsizetype>(heading.size()))};
+    column.Values = ValuesOf(heading);
     if (heading == "Game") {
         column.Usual = LongGames();
     } else if (heading == "Player") {
@@ -73,6 +87,23 @@ std::vector<TableColumn> Of(std::span<const char* const> headings) {
     columns.reserve(headings.size());
     for (const char* heading : headings) columns.push_back(Column(heading));
     return columns;
+}
+
+void OfferDeals(TextTable* table, const TableModel* rows, std::function<QString()> game) {
+    const auto place = [rows](const auto& isThat) {
+        const std::vector<TableColumn>& columns = rows->Columns();
+        const auto found = std::find_if(columns.begin(), columns.end(),
+                                        [&](const TableColumn& column) { return isThat(column.Heading); });
+        return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
+    };
+    const int named = place([](const QString& heading) { return heading == QLatin1String("Game"); });
+    const int number = place([](const QString& heading) {
+        return heading.startsWith(QLatin1String("Game N"));  // "Game No", "Game No.", "Game Number"
+    });
+    table->Commands()->OfferDeals([=](int row) -> std::optional<tFav> {
+        const QString name = named < 0 ? game() : rows->CellText(row, named);
+        return tFav{name.toStdString(), rows->CellText(row, number).toStdString()};
+    });
 }
 
 }  // namespace mColumns

@@ -182,6 +182,20 @@ TEST(Winning, IsRecordedOnceAndTheNextGameIsWhole) {
     }
 }
 
+TEST(Winning, LeadsToADealThatWasAskedForOverItsDialog) {
+    Engine engine;
+    engine.Layer.Forms.OnFinish = [] { mGen::StartAfter("Yukon", "0007"); };
+    for (const auto& [name, win] : Ways) {
+        SCOPED_TRACE(name);
+        if (gData->Figures.GameRunning) mMain::CloseGame();
+        engine.Layer.Forms.Choice = AfterGame::NewGame;  // the deal was asked for later
+        win();
+        EXPECT_EQ(gData->Figures.CurGName, "Yukon");
+        EXPECT_EQ(gData->Figures.CurGNo, GameNumber("0007"));
+        ExpectFreshDeal();
+    }
+}
+
 TEST(CardsToWin, IsWhatTheFoundationsHold) {
     const std::tuple<GameType, int, int, int> rows[] = {
         // kind, foundations, deck, cards to win
