@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
+#include <QAction>
 #include <QEvent>
 #include <QHeaderView>
 #include <QPainter>
@@ -82,6 +84,17 @@ TextTable::TextTable(const char* name, TableModel* model) : rows_(model) {
     SizeRows();
     setModel(model);
     commands_ = new ListCommands(this, horizontalHeader(), model);
+    ownWidths_ = new QAction(tr("Usual &Widths"), this);
+    ownWidths_->setObjectName(QStringLiteral("mnuUsualWidths"));
+    ownWidths_->setEnabled(false);
+    connect(ownWidths_, &QAction::triggered, this, [this] { Choose({}); });
+    commands_->AddToMenu(ownWidths_);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+        if (spreading_) return;
+        std::vector<int> widths;
+        for (int column = 0; column < rows_->columnCount(); ++column) widths.push_back(columnWidth(column));
+        Choose(std::move(widths));
+    });
     connect(model, &TableModel::headerDataChanged, this, [this] {
         MeasureColumns();
         SpreadColumns();
@@ -164,7 +177,39 @@ void TextTable::MeasureColumns() {
     }
 }
 
+std::string TextTable::Widths() const {
+    std::string widths;
+    for (const int width : chosen_) widths += (widths.empty() ? "" : ",") + std::to_string(width);
+    return widths;
+}
+
+void TextTable::RestoreWidths(const std::string& widths) {
+    constexpr int Widest = 10000;
+    const QStringList texts = QString::fromStdString(widths).split(QLatin1Char(','));
+    if (texts.size() != rows_->columnCount()) return;
+    std::vector<int> pixels;
+    for (const QString& text : texts) {
+        pixels.push_back(text.toInt());  // 0 for what is no number
+        if (pixels.back() < 1 || pixels.back() > Widest) return;
+    }
+    Choose(std::move(pixels));
+}
+
+void TextTable::Choose(std::vector<int> widths) {
+    chosen_ = std::move(widths);
+    ownWidths_->setEnabled(!chosen_.empty());
+    SpreadColumns();
+}
+
 void TextTable::SpreadColumns() {
+    spreading_ = true;
+    for (std::size_t column = 0; column < chosen_.size(); ++column)
+        setColumnWidth(static_cast<int>(column), chosen_[column]);
+    if (chosen_.empty()) ShareWidth();
+    spreading_ = false;
+}
+
+void TextTable::ShareWidth() {
     const int needed = std::reduce(needed_.begin(), needed_.end());
     if (needed == 0) return;
     const int room = std::max(needed, viewport()->width());

@@ -1,6 +1,7 @@
 // The view of a table of texts.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include <QTableView>
@@ -8,6 +9,7 @@
 #include "window/controls/SeenView.h"
 
 class ListCommands;
+class QAction;
 class TableModel;
 
 /// Rows of one height that are selected as a whole, any number of them, under headings that sort. Columns
@@ -22,6 +24,11 @@ public:
     /// Selects the row shown at that place and brings it into sight.
     void Select(int row);
     [[nodiscard]] ListCommands* Commands() const { return commands_; }
+
+    /// The widths that the player gave the columns, for RestoreWidths; empty while they are the table's own.
+    [[nodiscard]] std::string Widths() const;
+    /// Anything else than an answer of Widths, for as many columns, changes nothing.
+    void RestoreWidths(const std::string& widths);
 
     /// As wide as all columns need.
     [[nodiscard]] QSize sizeHint() const override;
@@ -38,8 +45,14 @@ private:
     void SizeRows();
     void MeasureColumns();
     void SpreadColumns();
+    void ShareWidth();
+    /// Gives the columns widths, with none their own.
+    void Choose(std::vector<int> widths);
 
     TableModel* rows_;
     ListCommands* commands_ = nullptr;
     std::vector<int> needed_;  // pixels, a column each
+    std::vector<int> chosen_;  // by the player, in place of those; empty where nothing was
+    bool spreading_ = false;   // it is the table that changes widths
+    QAction* ownWidths_ = nullptr;
 };

@@ -14,6 +14,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "window/controls/DialogMemory.h"
+
 namespace mDialog {
 
 namespace {
@@ -65,6 +67,8 @@ void FirstSize(QWidget* dialog, const QSize& wanted) {
     // Large letters on a small screen.
     if (needed.boundedTo(room) != needed) Scroll(dialog);
     dialog->resize(wanted.expandedTo(needed).boundedTo(room));
+    const QSize frame(8, 32);  // how much it takes is not known before the dialog is shown
+    new DialogMemory(dialog, needed, screen->availableSize() - frame);
 }
 
 QComboBox* MakeCombo(const char* name) {

@@ -17,7 +17,8 @@ class QWidget;
 namespace mDialog {
 
 /// Gives a dialog, when all is in it, its first size: what it asks for, as far as its screen has room, and
-/// never less than its controls need. Where the screen has no room even for these, the dialog scrolls.
+/// never less than its controls need. Where the screen has no room even for these, the dialog scrolls. A size
+/// that the player has given it comes back, with the widths and the sorting of its lists.
 void FirstSize(QWidget* dialog, const QSize& wanted);
 
 /// A drop-down list with that object name. It needs a label: a screen reader takes its own name to be what

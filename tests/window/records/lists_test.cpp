@@ -1,4 +1,5 @@
 // What every list of records offers: sorting by its headings, copying, and playing a deal again.
+#include <map>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,7 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMenu>
+#include <QScreen>
 #include <QTableView>
 #include <QTreeView>
 
@@ -216,6 +218,67 @@ TEST_F(Lists, ADealPlayedOverAnotherDialogClosesBoth) {
     layer_.Forms.Answer = true;
     Choose(list, "mnuPlayDeal");
     EXPECT_EQ(gData->Figures.CurGNo, GameNumber("77"));
+}
+
+TEST_F(Lists, SizeWidthsAndSortingAreRemembered) {
+    const auto remembered = [this] {
+        std::map<std::string, std::string> values;
+        for (const auto& [key, value] : layer_.Settings.Values)
+            if (key.starts_with("Dialogs/") && !value.empty()) values[key] = value;
+        return values;
+    };
+    QSize size;
+    {
+        frmLogStat dialog;
+        Open(dialog);
+        auto* log = Find<QTableView>(dialog, "lvLog");
+        Find<QComboBox>(dialog, "imcPlayer")->setCurrentIndex(1);
+        dialog.close();
+        EXPECT_THAT(remembered(), IsEmpty()) << "all is as it comes";
+        Open(dialog);
+        size = dialog.size() - QSize(7, 9);
+        dialog.resize(size);
+        ClickHeading(log->horizontalHeader(), 3);
+        ClickHeading(log->horizontalHeader(), 3);
+        log->horizontalHeader()->resizeSection(2, 333);
+        Find<QComboBox>(dialog, "imcPlayer")->setCurrentIndex(0);
+        EXPECT_EQ(log->columnWidth(2), 333) << "also after a choice";
+    }
+    EXPECT_EQ(remembered().size(), 3U);
+    {
+        frmLogStat dialog;
+        Open(dialog);
+        const auto* log = Find<QTableView>(dialog, "lvLog");
+        EXPECT_EQ(dialog.size(), size);
+        EXPECT_EQ(log->columnWidth(2), 333);
+        EXPECT_EQ(Column(log, 3), (Texts{"50", "7", "-80"}));
+        Find<QAction>(dialog, "mnuUsualWidths")->trigger();
+        EXPECT_NE(log->columnWidth(2), 333);
+        ClickHeading(log->horizontalHeader(), 3);
+    }
+    EXPECT_EQ(remembered().size(), 1U) << "only the size";
+
+    const char* const nonsense[] = {
+        "",        "x",       "5",     "99999999x1",      "-5x-5",           "+8",
+        "*1",      "+-1",     "1,2,3", "0,0,0,0,0,0,0,0", "1,1,1,1,1,1,1,x", "40000,1,1,1,1,1,1,1",
+        "1e3x1e3", "800x600 "};
+    std::vector<int> own;
+    for (const char* text : nonsense) {
+        for (const char* key : {"Size", "lvLog.Widths", "lvLog.Sorting"})
+            layer_.Settings.Values[std::string("Dialogs/frmLogStat.") + key] = text;
+        frmLogStat dialog;
+        const auto* log = Find<QTableView>(dialog, "lvLog");
+        EXPECT_EQ(Column(log, 7), (Texts{"10", "9", "0004"})) << text;
+        std::vector<int> widths;
+        for (int column = 0; column < 8; ++column) widths.push_back(log->columnWidth(column));
+        if (own.empty()) own = widths;
+        EXPECT_EQ(widths, own) << text;
+    }
+    layer_.Settings.Values["Dialogs/frmLogStat.Size"] = "30000x30000";
+    const frmLogStat dialog;
+    const QSize screen = dialog.screen()->availableSize();
+    EXPECT_EQ(dialog.size().boundedTo(screen), dialog.size());
+    EXPECT_GT(dialog.width(), screen.width() * 9 / 10);
 }
 
 }  // namespace
