@@ -33,6 +33,7 @@ struct WantedDeal {
     GameNumber Number;
 };
 std::optional<WantedDeal> wantedDeal;  // asked for out of a list, perhaps over that dialog
+std::string caption;                   // of the last game that was started; empty before the first
 
 // Autoplay and win check, after every move.
 void AfterMove(bool autoplay) {
@@ -144,6 +145,7 @@ void ReleaseAll() {
     gRunning = {};
     wanted = AfterGame::Nothing;
     wantedDeal.reset();
+    caption.clear();
 }
 
 void RefreshRecent() {
@@ -163,6 +165,14 @@ std::string GameCaption() {
            mGameNumber::Text(figures.CurGNo) + "]";
 }
 
+void RefreshCaption() {
+    if (caption.empty() || Dealing()) return;
+    std::string now = GameCaption();
+    if (now == caption) return;
+    caption = std::move(now);
+    gData->Layer().Forms.SetCaption(caption);
+}
+
 namespace {
 
 void Start(const std::string& name, const GameNumber& number, const std::vector<int>* deck) {
@@ -177,7 +187,8 @@ void Start(const std::string& name, const GameNumber& number, const std::vector<
     SetGameRules(game);
     gData->Figures.CurGNo = gameNumber;
     gData->SetCurGName(game);
-    gData->Layer().Forms.SetCaption(GameCaption());
+    caption = GameCaption();
+    gData->Layer().Forms.SetCaption(caption);
     {
         const DealingFlag flag;
         gDrag = {};

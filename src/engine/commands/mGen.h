@@ -42,6 +42,8 @@ void RefreshRecent();
 void HurryDeal();
 /// The caption of the main window for the running game.
 [[nodiscard]] std::string GameCaption();
+/// Lets the caption follow the player who is current now, once a game has been started.
+void RefreshCaption();
 
 /// Brackets one action of the player. What the end-of-game dialog asked for begins when the outermost
 /// bracket closes: the log that is being redone, and outer autoplay steps, must not meet a new deal.

@@ -236,6 +236,7 @@ CommandStates UpdateMenus() {
         states.ReplayAll = states.Undo || states.Redo;
     }
     mGen::RefreshRecent();
+    mGen::RefreshCaption();
     return states;
 }
 

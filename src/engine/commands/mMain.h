@@ -71,7 +71,7 @@ struct CommandStates {
     bool Forward = false, Back = false, ReplayAll = false, Stop = false;
     bool operator==(const CommandStates&) const = default;
 };
-/// Every 100 ms: the states of all commands, and the recent list into the menu.
+/// Every 100 ms: the states of all commands, the recent list into the menu, and the player into the caption.
 [[nodiscard]] CommandStates UpdateMenus();
 
 /// The three status texts: score, time, moves; empty where not shown.

@@ -11,6 +11,7 @@
 #include "engine/commands/mMain.h"
 #include "engine/commands/mSelect.h"
 #include "engine/records/cScore.h"
+#include "engine/records/mPlayers.h"
 #include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
 #include "engine/state/cArray.h"
@@ -72,6 +73,20 @@ TEST_F(Life, SameNameAndNumberSameTable) {
     for (int PicID = 0; PicID < MaxCards; ++PicID) EXPECT_FALSE(PicBack.PicCards(PicID).Visible);
     EXPECT_FALSE(PicBack.Mark(MarkKind::Stock, 0).Visible);
     EXPECT_EQ(engine_.Layer.Forms.Caption, "Tarnival 2004 11.0 [Klondike] [Player1] [5]") << "still shown";
+}
+
+TEST_F(Life, TheCaptionFollowsThePlayer) {
+    const auto caption = [this] {
+        (void)mMain::UpdateMenus();
+        return engine_.Layer.Forms.Caption;
+    };
+    EXPECT_EQ(caption(), "Tarnival 2004 11.0");
+    mGen::StartGame("Klondike", 5.0);
+    ASSERT_TRUE(mPlayers::Enter("Player1", "Ann"));
+    EXPECT_EQ(caption(), "Tarnival 2004 11.0 [Klondike] [Ann] [5]");
+    mMain::CloseGame();
+    gData->SetPlayer(2, "Bob", true);
+    EXPECT_EQ(caption(), "Tarnival 2004 11.0 [Klondike] [Bob] [5]");
 }
 
 TEST_F(Life, AGameLeavesNothingToTheNext) {
