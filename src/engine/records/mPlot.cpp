@@ -41,6 +41,9 @@ Bar MakeBar(std::size_t series, std::size_t place, double zero, double at, int v
     return {static_cast<int>(series), static_cast<int>(place), bottom, bottom + height};
 }
 
+/// Whether a row stands for games at all.
+bool HasGames(const ChartData& data, std::size_t row) { return data.Games.empty() || data.Games.at(row) > 0; }
+
 /// A straight scale over some part of the plot; 0 is always on it.
 struct Scale {
     double Low = 0;
@@ -69,6 +72,11 @@ double NextStep(double step, bool isTime) {
     return power * (leading < 2 ? 2.0 : leading < 5 ? 5.0 : 10.0);
 }
 
+/// "Score 520"; the labels of results hold their values already.
+std::string SeriesText(Kind kind, const ChartData& data, std::size_t series, int value) {
+    return data.Labels.at(series) + (kind == Kind::Result ? "" : ' ' + ValueText(kind, series, value));
+}
+
 void SortUpwards(std::vector<Label>& labels) {
     std::sort(labels.begin(), labels.end(),
               [](const Label& left, const Label& right) { return left.At < right.At; });
@@ -90,28 +98,64 @@ void LabelHeights(const Scale& scale, Kind kind, std::size_t series, int most, s
     }
 }
 
-Plot OnePoint(Kind kind, const ChartData& data) {
+/// The labels of an axis that has little room: "20k", "1.5M", "5 min", "2 h". One axis has one unit.
+std::string ShortText(double value, double step, double top, bool isTime) {
+    constexpr double Minute = 60.0;
+    constexpr double Hour = 3600.0;
+    constexpr double Thousand = 1000.0;
+    if (value == 0.0) return "0";
+    double unit = 1.0;
+    std::string name;
+    if (isTime) {
+        unit = std::fmod(step, Hour) == 0.0 ? Hour : std::fmod(step, Minute) == 0.0 ? Minute : 1.0;
+        name = unit == Hour ? " h" : unit == Minute ? " min" : " s";
+    }
+    const char* thousands = "";
+    for (const char* next : {"k", "M", "G"}) {
+        // Four digits are short enough, but not with a letter behind them.
+        if (top / unit < (*thousands == '\0' ? 10.0 * Thousand : Thousand)) break;
+        unit *= Thousand;
+        thousands = next;
+    }
+    return fmt::format("{:g}{}{}", value / unit, thousands, name);
+}
+
+Plot OnePoint(const ChartData& data) {
     Plot plot;
     plot.Places = static_cast<int>(data.Labels.size());
-    const auto measure = [kind](int value) {
-        return kind == Kind::Effort ? std::log10(1.0 + std::max(0, value)) : static_cast<double>(value);
-    };
-    double highest = 1.0;
-    for (const auto& value : data.Rows.at(0)) highest = std::max(highest, measure(value.value_or(0)));
+    Scale scale;
+    for (const auto& value : data.Rows.at(0)) scale.Take(value.value_or(0));
     for (std::size_t series = 0; series < data.Labels.size(); ++series) {
         const int value = data.Rows[0].at(series).value_or(0);
-        plot.Bars.push_back(MakeBar(series, series, 0.0, measure(value) / highest, value));
-        std::string text = data.Labels[series];
-        // The labels of results hold their values already.
-        if (kind == Kind::Effort) text += "\n" + ValueText(kind, series, value);
-        plot.Points.push_back({static_cast<double>(series), std::move(text)});
+        plot.Points.push_back({static_cast<double>(series), data.Labels[series]});
+        if (!HasGames(data, 0)) continue;
+        plot.Bars.push_back(MakeBar(series, series, 0.0, scale.At(value), value));
     }
-    if (kind == Kind::Effort) {
-        plot.Heights.push_back({0.0, "0", true});
-        constexpr double Base = 10.0;
-        for (double value = 1.0; std::log10(1.0 + value) <= highest; value *= Base)
-            plot.Heights.push_back({std::log10(1.0 + value) / highest, mFunc::Grouped(value)});
-        plot.Scale = {"Points, moves and seconds", "Each line: ten times the one below"};
+    return plot;
+}
+
+/// A panel takes two places, the left one for the labels of its heights. Its scale ends at a label, at or
+/// above the value, so that it can be read off.
+Plot InPanels(const ChartData& data) {
+    constexpr Kind kind = Kind::Effort;
+    constexpr double MostHeights = 4;
+    Plot plot;
+    plot.Places = 2 * static_cast<int>(data.Labels.size());
+    for (std::size_t series = 0; series < data.Labels.size(); ++series) {
+        const int value = std::max(0, data.Rows.at(0).at(series).value_or(0));
+        double step = 1;
+        while (value > MostHeights * step) step = NextStep(step, IsTime(kind, series));
+        const int steps = std::max(1, static_cast<int>(std::ceil(value / step)));
+        const double middle = static_cast<double>(2 * series) + 0.5;
+        mPlot::Panel panel{middle, {}};
+        for (int i = 0; i <= steps; ++i) {
+            panel.Heights.push_back({static_cast<double>(i) / steps,
+                                     ShortText(i * step, step, steps * step, IsTime(kind, series)), i == 0});
+        }
+        plot.Panels.push_back(std::move(panel));
+        plot.Points.push_back({middle, data.Labels[series] + "\n" + ValueText(kind, series, value)});
+        if (!HasGames(data, 0)) continue;
+        plot.Bars.push_back(MakeBar(series, 2 * series + 1, 0.0, value / (steps * step), value));
     }
     return plot;
 }
@@ -127,13 +171,13 @@ Plot Grouped(const ChartData& data) {
     for (std::size_t row = 0; row < data.Rows.size(); ++row) {
         for (std::size_t series = 0; series < data.Labels.size(); ++series) {
             const auto value = data.Rows[row].at(series);
-            if (!value) continue;
+            if (!value || !HasGames(data, row)) continue;
             plot.Bars.push_back(MakeBar(series, row * group + series, scale.At(0), scale.At(*value), *value));
         }
         const double middle = static_cast<double>(group - 2) / 2.0;
         plot.Points.push_back({static_cast<double>(row * group) + middle, data.Points.at(row)});
     }
-    plot.Places = static_cast<int>(data.Rows.size() * group) - 1;
+    plot.Places = std::max(0, static_cast<int>(data.Rows.size() * group) - 1);
     LabelHeights(scale, Kind::Periods, 0, MostHeights, plot.Heights);
     return plot;
 }
@@ -151,9 +195,16 @@ Plot InStrips(const ChartData& data) {
         for (const auto& row : data.Rows) scale.Take(row.at(series).value_or(0));
         for (std::size_t row = 0; row < data.Rows.size(); ++row) {
             const auto value = data.Rows[row][series];
-            if (value) plot.Bars.push_back(MakeBar(series, row, scale.At(0), scale.At(*value), *value));
+            if (!value || !HasGames(data, row)) continue;
+            plot.Bars.push_back(MakeBar(series, row, scale.At(0), scale.At(*value), *value));
         }
         LabelHeights(scale, Kind::Strips, series, MostHeights, plot.Heights);
+        // The label of its 0 always has room, and says what the strip shows.
+        for (Label& label : plot.Heights) {
+            if (!label.IsZero || label.Names >= 0) continue;  // those of the strips above have theirs
+            label.Names = static_cast<int>(series);
+            label.Text = data.Labels[series] + ' ' + label.Text;
+        }
     }
     SortUpwards(plot.Heights);
     for (std::size_t row = 0; row < data.Rows.size(); ++row) {
@@ -172,21 +223,46 @@ Plot Make(Kind kind, const ChartData& data) {
             return Grouped(data);
         case Kind::Strips:
             return InStrips(data);
+        case Kind::Effort:
+            return InPanels(data);
         default:
-            return OnePoint(kind, data);
+            return OnePoint(data);
     }
+}
+
+bool IsEmpty(const ChartData& data) {
+    for (std::size_t row = 0; row < data.Rows.size(); ++row) {
+        const auto& values = data.Rows[row];
+        const bool any = std::any_of(values.begin(), values.end(), [](const auto& value) { return value; });
+        if (any && HasGames(data, row)) return false;
+    }
+    return true;
 }
 
 std::string PointText(Kind kind, const ChartData& data, std::size_t row, std::string_view separator) {
     std::string text;
+    if (!HasGames(data, row)) return text;
     for (std::size_t series = 0; series < data.Labels.size(); ++series) {
         const auto value = data.Rows.at(row).at(series);
         if (!value) continue;
         if (!text.empty()) text += separator;
-        text += data.Labels[series];
-        if (kind != Kind::Result) text += ' ' + ValueText(kind, series, *value);
+        text += SeriesText(kind, data, series, *value);
     }
     return text;
+}
+
+std::string Tip(Kind kind, const ChartData& data, const Plot& plot, int place) {
+    if (place < 0 || place >= plot.Places || IsEmpty(data)) return {};
+    const auto part = static_cast<std::size_t>(place);
+    const auto places = static_cast<std::size_t>(plot.Places);
+    if (kind == Kind::Result || kind == Kind::Effort) {
+        const std::size_t series = part * data.Labels.size() / places;
+        return SeriesText(kind, data, series, data.Rows.at(0).at(series).value_or(0));
+    }
+    const std::size_t row = part * data.Rows.size() / places;
+    const std::string values = PointText(kind, data, row, "\n");
+    if (values.empty() && data.Games.empty()) return {};
+    return data.Points.at(row) + '\n' + (values.empty() ? "No games" : values);
 }
 
 std::string Description(Kind kind, const ChartData& data) {
@@ -198,7 +274,7 @@ std::string Description(Kind kind, const ChartData& data) {
         if (row < data.Points.size()) text += data.Points[row] + ": ";
         text += values;
     }
-    return text.empty() ? "No games" : text;
+    return text.empty() ? NoGamesYet : text;
 }
 
 int LabelStep(double width, double distance) {

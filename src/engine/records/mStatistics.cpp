@@ -76,11 +76,14 @@ std::vector<std::string> SortedGames() {
 
 ChartData ResultChart(const tStat& stat) {
     return {{fmt::format("Won : {}", stat.Won), fmt::format("Lost : {}", stat.Lost)},
-            {{stat.Won, stat.Lost}}};
+            {{stat.Won, stat.Lost}},
+            {},
+            {stat.Won + stat.Lost}};
 }
 
 ChartData EffortChart(const tStat& stat) {
-    return {{"Score", "Moves", "Time"}, {{std::max(0, stat.Score), stat.Moves, stat.Time}}};
+    return {
+        {"Score", "Moves", "Time"}, {{std::max(0, stat.Score), stat.Moves, stat.Time}}, {}, {stat.Played}};
 }
 
 std::vector<std::string> GeneralLines(const tStat& total) {
@@ -137,6 +140,8 @@ DateView Dates(const DateRange& range) {
         view.Effort.Rows.push_back({stat.Score, stat.Moves, stat.Time});
         view.Played.Points.push_back(stat.Label);
         view.Effort.Points.push_back(stat.Label);
+        view.Played.Games.push_back(stat.Played);
+        view.Effort.Games.push_back(stat.Played);
     }
     return view;
 }

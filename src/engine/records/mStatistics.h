@@ -18,6 +18,7 @@ struct ChartData {
     std::vector<std::string> Labels;
     std::vector<std::vector<std::optional<int>>> Rows;
     std::vector<std::string> Points{};  ///< what each row is called; none where there is one row only
+    std::vector<int> Games{};  ///< how many are behind each row; none where a row without a game is empty
     bool operator==(const ChartData&) const = default;
 };
 

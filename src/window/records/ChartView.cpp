@@ -52,7 +52,7 @@ void ChartView::SetLeastSize() {
     // Bars of one point tell nothing without their labels; of many points some labels are enough.
     if (data_.Rows.size() == 1 && data_.Points.empty())
         width = std::max(width, mCharts::FullWidth(plot_, this));
-    setMinimumSize(width, fontMetrics().height() * (Lines + static_cast<int>(plot_.Scale.size())));
+    setMinimumSize(width, fontMetrics().height() * Lines);
 }
 
 void ChartView::SetData(const mStatistics::ChartData& wanted) {
@@ -71,8 +71,21 @@ void ChartView::Draw() {
     const std::unique_ptr<QChart> old(chart());
     QChart* made = mCharts::Build(kind_, data_, plot_, this);
     setChart(made);
-    mCharts::WriteLabels(made, plot_, this);
-    connect(made, &QChart::plotAreaChanged, this, [this, made] { mCharts::WriteLabels(made, plot_, this); });
+    mCharts::WriteLabels(made, kind_, plot_, this);
+    connect(made, &QChart::plotAreaChanged, this,
+            [this, made] { mCharts::WriteLabels(made, kind_, plot_, this); });
+}
+
+void ChartView::drawBackground(QPainter* painter, const QRectF& part) {
+    QChartView::drawBackground(painter, part);
+    if (!drawn_) return;
+    if (mPlot::IsEmpty(data_)) {
+        painter->setFont(font());
+        painter->setPen(palette().color(QPalette::WindowText));
+        painter->drawText(sceneRect(), Qt::AlignCenter, QLatin1String(mPlot::NoGamesYet));
+    } else {
+        mCharts::PaintPanels(painter, chart(), plot_, this);
+    }
 }
 
 void ChartView::showEvent(QShowEvent* event) {
@@ -96,11 +109,7 @@ bool ChartView::viewportEvent(QEvent* event) {
 }
 
 QString ChartView::TipAt(const QPoint& position) const {
-    if (!drawn_ || data_.Points.empty()) return {};
+    if (!drawn_) return {};
     const int place = mCharts::PlaceAt(chart(), plot_, mapToScene(position));
-    if (place < 0) return {};
-    const auto row =
-        static_cast<std::size_t>(place) * data_.Rows.size() / static_cast<std::size_t>(plot_.Places);
-    const std::string values = mPlot::PointText(kind_, data_, row, "\n");
-    return values.empty() ? QString() : QString::fromStdString(data_.Points.at(row) + '\n' + values);
+    return QString::fromStdString(mPlot::Tip(kind_, data_, plot_, place));
 }

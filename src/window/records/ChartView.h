@@ -17,6 +17,7 @@ protected:
     void showEvent(QShowEvent* event) override;
     void changeEvent(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
+    void drawBackground(QPainter* painter, const QRectF& part) override;
 
 private:
     void Draw();

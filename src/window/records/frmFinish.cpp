@@ -97,8 +97,8 @@ void frmFinish::BuildList(const FinishSummary& summary) {
 
 void frmFinish::BuildChart(const FinishSummary& summary) {
     chFin = new ChartView("chFin", tr("Chart"), mPlot::Kind::Effort);
-    chFin->SetData(
-        mStatistics::EffortChart({.Score = summary.Score, .Moves = summary.Moves, .Time = summary.Seconds}));
+    chFin->SetData(mStatistics::EffortChart(
+        {.Played = 1, .Score = summary.Score, .Moves = summary.Moves, .Time = summary.Seconds}));
 }
 
 void frmFinish::PlaceBeside(const QRect& shown) {

@@ -8,6 +8,7 @@
 
 #include <QFontMetricsF>
 #include <QGraphicsLayout>
+#include <QPainter>
 #include <QWidget>
 #include <QtCharts/QBarSet>
 #include <QtCharts/QCategoryAxis>
@@ -19,7 +20,8 @@
 
 namespace {
 
-constexpr int Margin = 4;  // pixels around a chart
+constexpr int Margin = 4;          // pixels around a chart
+constexpr double Headroom = 0.03;  // above the bars, as a part of their height
 
 using mPlot::Kind;
 using mPlot::Plot;
@@ -46,7 +48,8 @@ QColor SeriesColor(Kind kind, std::size_t series, const QPalette& palette) {
 /// The part of a place that its bar fills: few bars are not to become walls.
 double BarWidth(Kind kind, const Plot& plot) {
     if (kind == Kind::Periods) return 0.95;  // the gap between the points is a place of its own
-    if (kind != Kind::Strips) return 0.5;
+    if (kind == Kind::Effort) return 0.7;    // of the half that is not for labels
+    if (kind == Kind::Result) return 0.5;
     constexpr double Usual = 0.75;
     constexpr double Fewest = 8.0;
     return Usual * std::min(1.0, (plot.Places + 1.0) / Fewest);
@@ -83,9 +86,15 @@ QStackedBarSeries* Stack(Kind kind, const mStatistics::ChartData& data, const Pl
     return stack;
 }
 
-/// Labels are read as HTML: a second line stands out.
-QString AsHtml(const std::string& text) {
-    const QStringList lines = QString::fromStdString(text).toHtmlEscaped().split(QLatin1Char('\n'));
+/// Labels are read as HTML: a second line stands out, and the name before a height has the color of its bars.
+QString AsHtml(const mPlot::Label& label, Kind kind, const QPalette& palette) {
+    const QStringList lines = QString::fromStdString(label.Text).toHtmlEscaped().split(QLatin1Char('\n'));
+    if (label.Names >= 0) {
+        const QColor color = SeriesColor(kind, static_cast<std::size_t>(label.Names), palette);
+        const qsizetype blank = lines.constFirst().lastIndexOf(QLatin1Char(' '));
+        return QStringLiteral("<b><font color='%1'>%2</font></b>%3")
+            .arg(color.name(), lines.constFirst().left(blank), lines.constFirst().mid(blank));
+    }
     if (lines.size() == 1) return lines.constFirst();
     return QStringLiteral("<center>%1<br/><b>%2</b></center>").arg(lines.constFirst(), lines.at(1));
 }
@@ -108,10 +117,14 @@ double LabelWidth(const Plot& plot, const QWidget* view) {
     return width;
 }
 
+QColor Faint(QColor color) {
+    constexpr int Alpha = 40;
+    color.setAlpha(Alpha);
+    return color;
+}
+
 void Style(QAbstractAxis* axis, const QWidget* view) {
-    QColor grid = view->palette().color(QPalette::WindowText);
-    constexpr int Faint = 40;
-    grid.setAlpha(Faint);
+    const QColor grid = Faint(view->palette().color(QPalette::WindowText));
     axis->setLabelsBrush(view->palette().windowText());
     axis->setLabelsFont(view->font());
     axis->setTruncateLabels(false);
@@ -128,12 +141,13 @@ QCategoryAxis* Axis(double low, double high, const QWidget* view) {
 }
 
 /// Writes other labels on an axis, where they are others.
-void Replace(QAbstractAxis* onAxis, const std::vector<mPlot::Label>& labels) {
+void Replace(QAbstractAxis* onAxis, const std::vector<mPlot::Label>& labels, Kind kind,
+             const QPalette& palette) {
     auto* axis = qobject_cast<QCategoryAxis*>(onAxis);
     QStringList texts;
     std::map<QString, int> seen;
     for (const mPlot::Label& label : labels) {
-        const QString text = AsHtml(label.Text);
+        const QString text = AsHtml(label, kind, palette);
         // The axis refuses a label that it has, and every strip has a 0. What tells them apart has no width.
         texts << text + QString(seen[text]++, QChar(0x200B));
     }
@@ -166,31 +180,24 @@ QChart* Build(Kind kind, const mStatistics::ChartData& data, const Plot& plot, c
     auto* stack = Stack(kind, data, plot, view->palette());
     chart->addSeries(stack);
 
-    if (!plot.Scale.empty()) {
-        QStringList lines;
-        for (const std::string& line : plot.Scale) lines << QString::fromStdString(line).toHtmlEscaped();
-        chart->setTitle(lines.join(QStringLiteral("<br/>")));
-        chart->setTitleFont(view->font());
-        chart->setTitleBrush(view->palette().windowText());
-    }
-    constexpr double Headroom = 0.03;
     auto* points = Axis(-0.5, std::max(1, plot.Places) - 0.5, view);
     auto* heights = Axis(0.0, 1.0 + Headroom, view);
     points->setGridLineVisible(false);
-    heights->setVisible(!plot.Heights.empty());
+    points->setVisible(!mPlot::IsEmpty(data));
+    heights->setVisible(!mPlot::IsEmpty(data) && !plot.Heights.empty());
     chart->addAxis(points, Qt::AlignBottom);
     chart->addAxis(heights, Qt::AlignLeft);
     stack->attachAxis(points);
     stack->attachAxis(heights);
-    if (kind == Kind::Periods || kind == Kind::Strips) {
+    if (kind == Kind::Periods && !mPlot::IsEmpty(data)) {
         ShowLegend(chart, view);
     } else {
-        chart->legend()->hide();  // each bar has its name below it
+        chart->legend()->hide();  // each bar or strip has its name beside it
     }
     return chart;
 }
 
-void WriteLabels(QChart* chart, const Plot& plot, const QWidget* view) {
+void WriteLabels(QChart* chart, Kind kind, const Plot& plot, const QWidget* view) {
     const QRectF area = chart->plotArea();
     if (plot.Points.empty() || area.isEmpty()) return;
     const auto count = static_cast<double>(plot.Points.size());
@@ -203,24 +210,50 @@ void WriteLabels(QChart* chart, const Plot& plot, const QWidget* view) {
     for (std::size_t i = (plot.Points.size() - 1) % step; i < plot.Points.size(); i += step) {
         if (!plot.Points[i].Text.empty()) points.push_back(plot.Points[i]);
     }
-    Replace(chart->axes(Qt::Horizontal).constFirst(), points);
+    Replace(chart->axes(Qt::Horizontal).constFirst(), points, kind, view->palette());
     const double line = QFontMetricsF(view->font()).height() + 2;
-    Replace(chart->axes(Qt::Vertical).constFirst(), mPlot::Spaced(plot.Heights, line / area.height()));
+    Replace(chart->axes(Qt::Vertical).constFirst(), mPlot::Spaced(plot.Heights, line / area.height()), kind,
+            view->palette());
+}
+
+void PaintPanels(QPainter* painter, const QChart* chart, const Plot& plot, const QWidget* view) {
+    const QRectF area = chart->mapRectToScene(chart->plotArea());
+    const double place = area.width() / std::max(1, plot.Places);
+    const double gap = Space(view) / 2;
+    const QColor text = view->palette().color(QPalette::WindowText);
+    const QPen line(Faint(text), 1);
+    painter->setFont(view->font());
+    const double lineHeight = QFontMetricsF(view->font()).height();
+    for (const mPlot::Panel& panel : plot.Panels) {
+        const double x = area.left() + (panel.At + 0.5) * place;
+        painter->setPen(line);
+        painter->drawLine(QPointF(x, area.top()), QPointF(x, area.bottom()));
+        for (const mPlot::Label& label : mPlot::Spaced(panel.Heights, (lineHeight + 2) / area.height())) {
+            const double y = area.bottom() - label.At / (1.0 + Headroom) * area.height();
+            painter->setPen(line);
+            painter->drawLine(QPointF(x - gap / 2, y), QPointF(x + place, y));
+            painter->setPen(text);
+            const QRectF beside(x - place - gap, y - lineHeight / 2, place, lineHeight);
+            painter->drawText(beside, Qt::AlignRight | Qt::AlignVCenter | Qt::TextDontClip,
+                              QString::fromStdString(label.Text));
+        }
+    }
 }
 
 int FullWidth(const Plot& plot, const QWidget* view) {
-    const double labels = (LabelWidth(plot, view) + Space(view)) * static_cast<double>(plot.Points.size());
+    const auto points = static_cast<double>(plot.Points.size());
     const QFontMetricsF metrics(view->font());
-    double heights = 0;
-    for (const mPlot::Label& label : plot.Heights)
-        heights = std::max(heights, metrics.horizontalAdvance(QString::fromStdString(label.Text)));
-    double title = 0;
-    for (const std::string& line : plot.Scale)
-        title = std::max(title, metrics.horizontalAdvance(QString::fromStdString(line)));
-    // The margins of the layout are inside; beside the labels of the heights lie as many again.
+    double panels = 0;
+    for (const mPlot::Panel& panel : plot.Panels) {
+        for (const mPlot::Label& label : panel.Heights)
+            panels = std::max(panels, metrics.horizontalAdvance(QString::fromStdString(label.Text)));
+    }
+    // The labels of a panel have half of it.
+    if (panels > 0) panels = 2 * (panels + 1.5 * Space(view));
+    // The margins of the layout are inside.
     constexpr int Margins = 6;
-    const double wanted = std::max(labels + heights + (heights > 0 ? Margins * Margin : 0), title);
-    return static_cast<int>(std::ceil(wanted)) + Margins * Margin;
+    return static_cast<int>(std::ceil(points * std::max(LabelWidth(plot, view) + Space(view), panels))) +
+           Margins * Margin;
 }
 
 int PlaceAt(const QChart* chart, const Plot& plot, const QPointF& position) {

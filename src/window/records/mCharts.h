@@ -6,6 +6,7 @@
 #include "engine/records/mPlot.h"
 
 class QChart;
+class QPainter;
 class QWidget;
 
 namespace mCharts {
@@ -16,7 +17,10 @@ namespace mCharts {
                             const QWidget* view);
 
 /// Writes as many labels as have room now; the last point always has its own.
-void WriteLabels(QChart* chart, const mPlot::Plot& plot, const QWidget* view);
+void WriteLabels(QChart* chart, mPlot::Kind kind, const mPlot::Plot& plot, const QWidget* view);
+
+/// Draws the scales of the panels behind the bars, in the scene's coordinates.
+void PaintPanels(QPainter* painter, const QChart* chart, const mPlot::Plot& plot, const QWidget* view);
 
 /// The width at which all labels along the axis have room, in pixels.
 [[nodiscard]] int FullWidth(const mPlot::Plot& plot, const QWidget* view);

@@ -1,4 +1,5 @@
 // Charts: whatever the values are, each leaves a bar in its own part of the plot, and its labels are round.
+#include <algorithm>
 #include <limits>
 #include <map>
 #include <string>
@@ -22,7 +23,9 @@ constexpr int Smallest = std::numeric_limits<int>::min();
 std::vector<std::string> LabelsOf(const mPlot::Plot& plot, bool times) {
     std::vector<std::string> texts;
     for (const mPlot::Label& label : plot.Heights) {
-        if ((label.Text.find(':') != std::string::npos) == times) texts.push_back(label.Text);
+        // A name may stand before it.
+        const std::string text = label.Text.substr(label.Names < 0 ? 0 : label.Text.rfind(' ') + 1);
+        if ((text.find(':') != std::string::npos) == times) texts.push_back(text);
     }
     return texts;
 }
@@ -54,6 +57,9 @@ TEST(Plot, EveryValueLeavesABarAndNoneHidesAnother) {
             for (const auto& value : row) values += value ? 1 : 0;
         }
         EXPECT_EQ(plot.Bars.size(), values);
+        const auto named = std::count_if(plot.Heights.begin(), plot.Heights.end(),
+                                         [](const mPlot::Label& label) { return label.Names >= 0; });
+        EXPECT_EQ(named, kind == Kind::Strips ? 3 : 0) << "each strip at its own 0";
         std::map<int, double> reached;  // by place, from the top down
         for (const mPlot::Bar& bar : plot.Bars) {
             EXPECT_GE(bar.Top - bar.Bottom, Visible);
@@ -66,17 +72,48 @@ TEST(Plot, EveryValueLeavesABarAndNoneHidesAnother) {
     }
 }
 
-// Three figures of three units on one scale: each bar ends where the scale has its value.
-TEST(Plot, EffortsAreReadOffAScaleThatIsSaid) {
-    const mPlot::Plot plot = mPlot::Make(Kind::Effort, Efforts({{10, 100, 1000}}));
-    std::map<std::string, double> lines;
-    for (const mPlot::Label& label : plot.Heights) lines[label.Text] = label.At;
-    ASSERT_EQ(plot.Heights.size(), 5U);
-    EXPECT_DOUBLE_EQ(plot.Bars[0].Top, lines.at("10"));
-    EXPECT_DOUBLE_EQ(plot.Bars[1].Top, lines.at("100"));
-    EXPECT_DOUBLE_EQ(plot.Bars[2].Top, lines.at("1,000"));
-    EXPECT_FALSE(plot.Scale.empty());
-    EXPECT_TRUE(mPlot::Make(Kind::Strips, Efforts({{10, 100, 1000}})).Scale.empty());
+// Three figures of three units: each on a scale that its own labels say.
+TEST(Plot, EffortsAreReadOffScalesOfTheirOwn) {
+    struct Row {
+        int Score, Moves, Seconds;
+        std::vector<std::string> Tops;  // the highest labels
+        std::vector<double> Bars;
+    };
+    const Row rows[] = {
+        {520, 104, 3605, {"600", "150", "80 min"}, {520 / 600.0, 104 / 150.0, 3605 / 4800.0}},
+        {0, 1, 59, {"1", "1", "60 s"}, {0.008, 1.0, 59 / 60.0}},
+        {20000, 4000000, 100 * 3600, {"20k", "4M", "100 h"}, {1.0, 1.0, 1.0}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.Score);
+        const mPlot::Plot plot = mPlot::Make(Kind::Effort, Efforts({{row.Score, row.Moves, row.Seconds}}));
+        EXPECT_TRUE(plot.Heights.empty()) << "no scale of all";
+        ASSERT_EQ(plot.Panels.size(), 3U);
+        for (std::size_t i = 0; i < 3; ++i) {
+            EXPECT_EQ(plot.Panels[i].Heights.back().Text, row.Tops[i]);
+            EXPECT_EQ(plot.Panels[i].Heights.back().At, 1.0);
+            EXPECT_NEAR(plot.Bars[i].Top, row.Bars[i], 1e-9);
+        }
+    }
+}
+
+TEST(Plot, WithoutAGameNothingStands) {
+    const ChartData days{{"Played", "Won"}, {{0, 0}, {3, 0}}, {"Jan 01", "Jan 02"}, {0, 3}};
+    const mPlot::Plot plot = mPlot::Make(Kind::Periods, days);
+    EXPECT_EQ(plot.Bars.size(), 2U) << "a day on which nothing was won has a trace of it";
+    EXPECT_EQ(mPlot::Tip(Kind::Periods, days, plot, 0), "Jan 01\nNo games");
+    EXPECT_EQ(mPlot::Tip(Kind::Periods, days, plot, plot.Places - 1), "Jan 02\nPlayed 3\nWon 0");
+    EXPECT_EQ(mPlot::Description(Kind::Periods, days), "Jan 02: Played 3, Won 0");
+    EXPECT_FALSE(mPlot::IsEmpty(days));
+    for (const auto& [kind, data] : {std::pair{Kind::Result, mStatistics::ResultChart({})},
+                                     std::pair{Kind::Effort, mStatistics::EffortChart({})}}) {
+        EXPECT_TRUE(mPlot::IsEmpty(data) && mPlot::Make(kind, data).Bars.empty());
+        EXPECT_EQ(mPlot::Description(kind, data), "No games yet");
+        EXPECT_EQ(mPlot::Tip(kind, data, mPlot::Make(kind, data), 0), "");
+    }
+    const ChartData played = mStatistics::EffortChart({.Played = 1, .Lost = 1});
+    EXPECT_FALSE(mPlot::IsEmpty(played)) << "given up at once";
+    EXPECT_EQ(mPlot::Tip(Kind::Effort, played, mPlot::Make(Kind::Effort, played), 3), "Moves 0");
 }
 
 TEST(Plot, HeightsAreLabelledAtRoundNumbers) {
