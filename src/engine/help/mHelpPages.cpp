@@ -116,7 +116,10 @@ const std::vector<Page>& All() {
           "Ctrl+A adds the deal to the favorites, Ctrl+F organizes them, and Ctrl+P plays one of them.",
           "F4 opens the game statistics and F9 the high scores; Ctrl+L opens the players and Ctrl+U the "
           "Customize "
-          "dialog."}},
+          "dialog.",
+          "In a list, the menu key opens what can be done with it, such as sorting; Ctrl+C copies the "
+          "selected "
+          "rows and Ctrl+A selects them all."}},
         {"scoring",
          "Score, time and moves",
          {"The score is the same in all games: ten points for each card on the foundations, less one point "
@@ -145,6 +148,14 @@ const std::vector<Page>& All() {
           "won games. Log Statistics lists the games one by one and can be narrowed to a player, a game and "
           "a "
           "span of time.",
+          "A click on a heading sorts a list by it, a second click the other way round, and a third one "
+          "brings back its usual order. The right mouse button or the menu key opens a menu with the same "
+          "choices. Ctrl+C copies the selected rows, to be pasted into a spreadsheet. Where a row is a deal, "
+          "the menu plays it again, which ends the running game if you agree, or adds it to the favorites. "
+          "Dialogs keep the size, the widths and the order that you give them.",
+          "Score, moves and time each have a scale of their own in the charts. The pointer on a bar shows "
+          "its "
+          "figures.",
           "All statistics can be exported to a text file, and they can be cleared. Clearing cannot be "
           "undone."}},
         {"players",
@@ -162,7 +173,9 @@ const std::vector<Page>& All() {
           "plays the deal of a number that you type.",
           "A deal worth playing again can be added to the favorites while it is on the table. Play from "
           "Favorites "
-          "starts it again, and Organize Favorites puts the list in order. All players share one list."}},
+          "starts it again, and Organize Favorites puts the list in order; both say beside a game how many "
+          "it "
+          "has. All players share one list."}},
         {"settings",
          "Settings",
          {"Customize, in the Tools menu, has the background of the table, the look of the cards, the speeds "

@@ -1,6 +1,8 @@
 // The favourite deals.
 #include "engine/records/mFavourites.h"
 
+#include <map>
+
 #include "engine/records/cScore.h"
 #include "engine/state/cData.h"
 
@@ -18,6 +20,20 @@ std::vector<std::string> Numbers(const std::string& gName) {
         if (favourite.mName == gName) numbers.push_back(mGameNumber::Text(favourite.mGno));
     }
     return numbers;
+}
+
+std::vector<std::string> Notes(const std::vector<std::string>& games) {
+    std::map<std::string, int> counts;
+    for (int i = 1; i <= gScore->FavTop(); ++i) ++counts[gScore->GetFav(i).mName];
+    std::vector<std::string> notes;
+    notes.reserve(games.size());
+    for (const std::string& game : games) {
+        const auto count = counts.find(game);
+        notes.push_back(count == counts.end() ? ""
+                                              : std::to_string(count->second) +
+                                                    (count->second == 1 ? " favorite" : " favorites"));
+    }
+    return notes;
 }
 
 void Add(const std::string& gName, const GameNumber& number) {

@@ -4,26 +4,26 @@
 #include <utility>
 
 #include <QHeaderView>
-#include <QStyledItemDelegate>
 #include <QTreeView>
 
 #include "window/controls/ListCommands.h"
+#include "window/controls/NotedDelegate.h"
 #include "window/controls/SeenView.h"
 #include "window/controls/mDialog.h"
 
 namespace {
 
 /// Rows with as much air as those of a table.
-class Rows : public QStyledItemDelegate {
+class Rows : public NotedDelegate {
 public:
-    explicit Rows(QTreeView* list) : QStyledItemDelegate(list), list_(list) {}
+    explicit Rows(QTreeView* list) : NotedDelegate(list), list_(list) {}
 
     [[nodiscard]] QString displayText(const QVariant& value, const QLocale& locale) const override {
         return mDialog::Padded(QStyledItemDelegate::displayText(value, locale));
     }
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const override {
-        return {QStyledItemDelegate::sizeHint(option, index).width(), mDialog::RowHeight(list_)};
+        return {NotedDelegate::sizeHint(option, index).width(), mDialog::RowHeight(list_)};
     }
 
 private:
@@ -44,6 +44,24 @@ void ListModel::SetTexts(const std::vector<std::string>& texts) {
     rows.reserve(texts.size());
     for (const std::string& text : texts) rows.push_back({text});
     SetRows(std::move(rows));
+}
+
+void ListModel::SetNotes(const std::vector<std::string>& notes, const QIcon& icon) {
+    notes_.clear();
+    for (const std::string& note : notes) notes_.push_back(QString::fromStdString(note));
+    noteIcon_ = icon;
+    if (rowCount() > 0) Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0));
+}
+
+QVariant ListModel::data(const QModelIndex& index, int role) const {
+    const auto row = static_cast<std::size_t>(index.isValid() ? GivenRow(index.row()) : 0);
+    if (index.isValid() && row < notes_.size() && !notes_[row].isEmpty()) {
+        if (role == NotedDelegate::NoteRole) return notes_[row];
+        if (role == Qt::DecorationRole) return noteIcon_;
+        if (role == Qt::AccessibleTextRole)
+            return NotedDelegate::Spoken(CellText(static_cast<int>(row), 0), notes_[row]);
+    }
+    return TableModel::data(index, role);
 }
 
 int ListModel::Row(const QString& text) const {

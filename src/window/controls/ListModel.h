@@ -13,8 +13,16 @@ public:
     explicit ListModel(QString heading, const QIcon& icon = {}, Qt::AlignmentFlag side = Qt::AlignLeft);
 
     void SetTexts(const std::vector<std::string>& texts);
+    /// A note for every row, empty for none: it stands at the right of the row, whose icon is then `icon`.
+    void SetNotes(const std::vector<std::string>& notes, const QIcon& icon);
     /// Where the row of a text is shown; -1 where no row has it.
     [[nodiscard]] int Row(const QString& text) const;
+
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+
+private:
+    std::vector<QString> notes_;
+    QIcon noteIcon_;
 };
 
 class ListCommands;

@@ -65,6 +65,7 @@ void frmOrgFav::BuildControls() {
 void frmOrgFav::Load() {
     mFavourites::Open();
     games_->SetTexts(gData->GameNames());
+    MarkGames();
     const int current = games_->Row(QString::fromStdString(gData->Figures.CurGName));
     mList::Select(lvGames, current < 0 ? 0 : current);
     UpdateLVFav();
@@ -75,8 +76,13 @@ void frmOrgFav::UpdateLVFav() {
     favourites_->SetTexts(mFavourites::Numbers(mList::Selected(lvGames).toStdString()));
 }
 
+void frmOrgFav::MarkGames() {
+    games_->SetNotes(mFavourites::Notes(gData->GameNames()), ilsIcons::Favorite());
+}
+
 void frmOrgFav::Clear() {
     mFavourites::Clear();
+    MarkGames();
     UpdateLVFav();
 }
 

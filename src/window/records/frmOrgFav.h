@@ -19,6 +19,8 @@ protected:
 private:
     void BuildControls();
     void Load();
+    /// Shows which games have favorites, and how many.
+    void MarkGames();
     void UpdateLVFav();
     void Clear();
     void Tick();

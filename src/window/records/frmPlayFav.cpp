@@ -13,6 +13,7 @@
 #include "engine/state/cData.h"
 #include "window/controls/ListCommands.h"
 #include "window/controls/ListModel.h"
+#include "window/controls/NotedDelegate.h"
 #include "window/controls/mDialog.h"
 #include "window/look/ilsIcons.h"
 
@@ -31,6 +32,7 @@ frmPlayFav::frmPlayFav(QWidget* owner) : QDialog(owner) {
 
 void frmPlayFav::BuildControls() {
     cmGames = mDialog::MakeCombo("cmGames");
+    cmGames->setItemDelegate(new NotedDelegate(cmGames));
     favourites_ = new ListModel(QString(), {}, Qt::AlignRight);
     lvFav = mList::MakeView("lvFav", favourites_);
     lvFav->setAccessibleName(tr("Favorites of the game"));
@@ -59,7 +61,19 @@ void frmPlayFav::BuildControls() {
 void frmPlayFav::Load() {
     mFavourites::Open();
     mDialog::FillCombo(cmGames, ilsIcons::Game(), gData->GameNames(), gData->LastGName());
+    MarkGames();
     UpdateLVFav();
+}
+
+void frmPlayFav::MarkGames() {
+    const std::vector<std::string> notes = mFavourites::Notes(gData->GameNames());
+    for (int i = 0; i < cmGames->count(); ++i) {
+        const QString note = QString::fromStdString(notes.at(static_cast<std::size_t>(i)));
+        if (note.isEmpty()) continue;
+        cmGames->setItemData(i, note, NotedDelegate::NoteRole);
+        cmGames->setItemData(i, NotedDelegate::Spoken(cmGames->itemText(i), note), Qt::AccessibleTextRole);
+        cmGames->setItemIcon(i, ilsIcons::Favorite());
+    }
 }
 
 void frmPlayFav::UpdateLVFav() {

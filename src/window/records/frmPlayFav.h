@@ -16,6 +16,8 @@ public:
 private:
     void BuildControls();
     void Load();
+    /// Shows which games have favorites, and how many.
+    void MarkGames();
     void UpdateLVFav();
     void Play();
 

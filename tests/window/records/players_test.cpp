@@ -204,6 +204,15 @@ TEST_F(FavouriteDialogs, AreOrganizedByGame) {
     EXPECT_TRUE(games->viewport()->rect().contains(games->visualRect(games->currentIndex())))
         << "the selection is out of sight";
     EXPECT_THAT(Rows(Numbers(dialog)), ElementsAre("5", "3", "5"));
+    const auto spoken = [games](const char* game) {
+        const QAbstractItemModel* model = games->model();
+        const auto found =
+            model->match(model->index(0, 0), Qt::DisplayRole, QLatin1String(game), 1, Qt::MatchExactly);
+        return found.at(0).data(Qt::AccessibleTextRole).toString().toStdString();
+    };
+    EXPECT_EQ(spoken("Yukon"), "Yukon, 3 favorites");
+    EXPECT_EQ(spoken("Klondike"), "Klondike, 1 favorite");
+    EXPECT_EQ(spoken("Canfield"), "");
     ClickRow(games, games->model()->index(0, 0));
     EXPECT_THAT(Rows(Numbers(dialog)), IsEmpty());
 
@@ -212,6 +221,7 @@ TEST_F(FavouriteDialogs, AreOrganizedByGame) {
     Click(dialog, "cmdClear");
     EXPECT_THAT(layer_.Forms.Questions, IsEmpty());
     EXPECT_FALSE(layer_.Files.Exists(cScore::FavFileName()));
+    EXPECT_EQ(spoken("Yukon"), "");
     EXPECT_TRUE(QTest::qWaitFor([&] { return !Enabled(dialog, "cmdClear"); }, 2000));
 }
 
@@ -230,6 +240,7 @@ TEST_F(FavouriteDialogs, ArePlayedWithTheirNumberAsText) {
     EXPECT_THAT(Rows(Numbers(dialog)), IsEmpty());
     EXPECT_FALSE(Enabled(dialog, "cmdPlay"));
     games->setCurrentIndex(games->findText(QStringLiteral("Yukon")));
+    EXPECT_EQ(games->currentData(Qt::AccessibleTextRole).toString(), QStringLiteral("Yukon, 2 favorites"));
     EXPECT_THAT(Rows(Numbers(dialog)), ElementsAre("5", "9"));
     EXPECT_EQ(Selected(Numbers(dialog)), "9") << "the last one is selected";
     ClickRow(Numbers(dialog), Numbers(dialog)->model()->index(0, 0));
