@@ -98,12 +98,13 @@ void ScoreStore::Add(const mScoreFile::ScoreFields& fields, const std::string& p
     entry.FixedDate = time && fields.Date.size() == FixedLength;
     if (!time) time = dates.Read(fields.Date);
     entry.Day = time ? mDates::DayNumber(*time) : NoDay;
-    entry.Moment = entry.FixedDate ? static_cast<std::uint32_t>(time->Hour * SecondsInHour +
-                                                                time->Minute * SecondsInMinute + time->Second)
-                                   : texts_.Add(fields.Date);
+    entry.Second = time ? static_cast<std::uint32_t>(time->Hour * SecondsInHour +
+                                                     time->Minute * SecondsInMinute + time->Second)
+                        : 0;
+    if (!entry.FixedDate) entry.DateText = texts_.Add(fields.Date);
     entry.Time = fields.Time;
-    entry.Moves = fields.Moves;
-    entry.Score = fields.Score;
+    entry.Moves = static_cast<std::int16_t>(fields.Moves);
+    entry.Score = static_cast<std::int16_t>(fields.Score);
     entry.Won = static_cast<std::int16_t>(fields.Won);
     entry.Game = games_.Add(fields.gName);
     const std::uint32_t owner = players_.Add(player);
@@ -129,13 +130,22 @@ void ScoreStore::AddSums(const Entry& entry) {
 }
 
 std::string ScoreStore::DateText(const Entry& entry) const {
-    if (!entry.FixedDate) return std::string(texts_.Get(entry.Moment));
+    return entry.FixedDate ? mDates::Text(TimeOf(entry)) : std::string(texts_.Get(entry.DateText));
+}
+
+std::string ScoreStore::NumberText(const Entry& entry) const {
+    return entry.Kind == Entry::NumberKind::Text
+               ? std::string(texts_.Get(static_cast<std::uint32_t>(entry.Text)))
+               : mGameNumber::Text(entry.Number);
+}
+
+CivilTime ScoreStore::TimeOf(const Entry& entry) {
     CivilTime time = mDates::FromDayNumber(entry.Day);
-    const int seconds = static_cast<int>(entry.Moment);
+    const int seconds = static_cast<int>(entry.Second);
     time.Hour = seconds / SecondsInHour;
     time.Minute = seconds / SecondsInMinute % SecondsInMinute;
     time.Second = seconds % SecondsInMinute;
-    return mDates::Text(time);
+    return time;
 }
 
 tScore ScoreStore::Record(const Entry& entry) const {
@@ -147,10 +157,8 @@ tScore ScoreStore::Record(const Entry& entry) const {
             record.GameNo = entry.Number;
             break;
         case Entry::NumberKind::Digits:
-            record.GameNo = mGameNumber::Text(entry.Number);
-            break;
         case Entry::NumberKind::Text:
-            record.GameNo = std::string(texts_.Get(static_cast<std::uint32_t>(entry.Text)));
+            record.GameNo = NumberText(entry);
             break;
     }
     record.Time = entry.Time;

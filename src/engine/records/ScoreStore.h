@@ -68,16 +68,17 @@ public:
             double Number;       ///< the game number where it is one, or the typed text is its digits
             std::uint64_t Text;  ///< else its place in the pool
         };
-        std::int32_t Day;      ///< as mDates::DayNumber; NoDay for a date that nothing can read
-        std::uint32_t Moment;  ///< seconds of the day, or the place of the date's text in the pool
+        std::int32_t Day;        ///< as mDates::DayNumber; NoDay for a date that nothing can read
+        std::uint32_t Second;    ///< of the day; 0 for a date that nothing can read
+        std::uint32_t DateText;  ///< its place in the pool, unless FixedDate
         std::int32_t Time;
-        std::int32_t Moves;
-        std::int32_t Score;
+        std::int16_t Moves;
+        std::int16_t Score;
         std::uint32_t Game;
         std::uint16_t Player;
         std::int16_t Won;
         enum class NumberKind : std::uint8_t { Number, Digits, Text } Kind;
-        bool FixedDate;  ///< the date text is the fixed form of Day and Moment
+        bool FixedDate;  ///< the date text is the fixed form of Day and Second
     };
 
     void Add(const mScoreFile::ScoreFields& fields, const std::string& player, const RegionalDates& dates);
@@ -89,6 +90,9 @@ public:
     [[nodiscard]] const std::vector<Entry>& Entries() const { return entries_; }
     [[nodiscard]] tScore Record(const Entry& entry) const;
     [[nodiscard]] std::string DateText(const Entry& entry) const;
+    [[nodiscard]] std::string NumberText(const Entry& entry) const;
+    /// Date and time of an entry whose date can be read.
+    [[nodiscard]] static CivilTime TimeOf(const Entry& entry);
     [[nodiscard]] const NameList& Games() const { return games_; }
     [[nodiscard]] const NameList& Players() const { return players_; }
     /// The entries of a game by their index, in reading order.

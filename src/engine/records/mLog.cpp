@@ -13,12 +13,9 @@ namespace {
 
 using Entry = ScoreStore::Entry;
 
-double MomentOf(const Entry& entry, const ScoreStore& store, const RegionalDates& dates) {
+double MomentOf(const Entry& entry) {
     constexpr double Day = 24.0 * 60 * 60;
-    if (entry.Day == ScoreStore::NoDay) return mSorting::None;
-    if (entry.FixedDate) return entry.Day * Day + entry.Moment;
-    const std::optional<CivilTime> time = dates.Read(store.DateText(entry));
-    return time ? static_cast<double>(mDates::Seconds(*time)) : entry.Day * Day;
+    return entry.Day == ScoreStore::NoDay ? mSorting::None : entry.Day * Day + entry.Second;
 }
 
 double NumberOf(const Entry& entry, const ScoreStore& store) {
@@ -60,8 +57,7 @@ std::vector<std::string> Row(const tScore& record, const RegionalDates& dates) {
             mGameNumber::Text(record.GameNo)};
 }
 
-std::vector<double> Keys(const std::vector<int>& indexes, int column, const RegionalDates& dates,
-                         const Ranks& ranks) {
+std::vector<double> Keys(const std::vector<int>& indexes, int column, const Ranks& ranks) {
     const ScoreStore& store = gScore->Store();
     const std::string_view heading = Columns.at(static_cast<std::size_t>(column));
     const auto each = [&](auto key) {
@@ -71,7 +67,7 @@ std::vector<double> Keys(const std::vector<int>& indexes, int column, const Regi
             keys.push_back(key(store.Entries().at(static_cast<std::size_t>(index - 1))));
         return keys;
     };
-    if (heading == "Date") return each([&](const Entry& entry) { return MomentOf(entry, store, dates); });
+    if (heading == "Date") return each(MomentOf);
     if (heading == "Player") {
         const std::vector<double> places = ranks(store.Players().Names());
         return each([&](const Entry& entry) { return places.at(entry.Player); });

@@ -47,7 +47,6 @@ inline constexpr std::array<DateChoice, 7> DateChoices{{
 using Ranks = std::function<std::vector<double>(const std::vector<std::string>& names)>;
 /// What these records sort by in a column, mSorting::None where nothing can be read. Records of one day sort
 /// by the time of day.
-[[nodiscard]] std::vector<double> Keys(const std::vector<int>& indexes, int column,
-                                       const RegionalDates& dates, const Ranks& ranks);
+[[nodiscard]] std::vector<double> Keys(const std::vector<int>& indexes, int column, const Ranks& ranks);
 
 }  // namespace mLog

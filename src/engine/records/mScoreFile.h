@@ -28,7 +28,7 @@ struct ScoreFields {
     Field GameNo;
     double Number = 0.0;  ///< of an unquoted GameNo
     int Time = 0;
-    int Moves = 0;
+    int Moves = 0;  ///< as Score and Won in 16 bits
     int Score = 0;
     int Won = 0;
 };

@@ -29,7 +29,7 @@ QString LogModel::Text(int row, int column) const {
 }
 
 std::vector<double> LogModel::Keys(int column) const {
-    return mLog::Keys(indexes_, column, dates_, [](const std::vector<std::string>& names) {
+    return mLog::Keys(indexes_, column, [](const std::vector<std::string>& names) {
         std::vector<QString> texts;
         texts.reserve(names.size());
         for (const std::string& name : names) texts.push_back(QString::fromStdString(name));

@@ -55,7 +55,7 @@ TEST(Sorting, OfTheLogReadsRecordsOfEveryKind) {
         {1, 0, 2}, {2, 1, 0}, {1, 0, 2}, {1, 2, 0},  // time, moves, status, number
     };
     for (int column = 0; column < static_cast<int>(mLog::Columns.size()); ++column) {
-        const auto keys = mLog::Keys({1, 2, 3}, column, RegionalDates::Current(), ranks);
+        const auto keys = mLog::Keys({1, 2, 3}, column, ranks);
         EXPECT_EQ(mSorting::Order(keys, false), ups[column])
             << mLog::Columns.at(static_cast<std::size_t>(column));
     }
