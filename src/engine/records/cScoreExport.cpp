@@ -4,6 +4,7 @@
 
 #include "engine/records/RegionalDates.h"
 #include "engine/records/cScore.h"
+#include "engine/records/mOwnFiles.h"
 #include "engine/records/mPlayers.h"
 #include "engine/records/mStatistics.h"
 #include "engine/rules/mFunc.h"
@@ -109,44 +110,6 @@ void WriteTotals(Report& report, const cScore& scores) {
     report.BlankLines(2);
 }
 
-/// A path's folder, with the separator at its end, and what stands behind it.
-std::pair<std::string, std::string> Parts(const std::string& path) {
-    const auto separator = path.rfind(gData->Layer().Files.Separator());
-    if (separator == std::string::npos) return {"", path};
-    return {path.substr(0, separator + 1), path.substr(separator + 1)};
-}
-
-/// Whether a path leads into a folder, by whatever ways, to a name that begins and ends so.
-bool LeadsTo(const std::string& path, const std::string& folder, std::string_view begin,
-             std::string_view end) {
-    const auto [its, name] = Parts(path);
-    return name.starts_with(begin) && name.ends_with(end) && gData->Layer().Files.Same(its, folder);
-}
-
-/// Whether a file is one that this program keeps itself, or would take for one.
-bool IsOwn(const std::string& path) {
-    const FileSystem& files = gData->Layer().Files;
-    const std::string folder = gData->AppDir();
-    const auto [favFolder, favourites] = Parts(cScore::FavFileName());
-    if (LeadsTo(path, folder, "", cScore::Ending) || LeadsTo(path, folder, favourites, "")) return true;
-    // Through a link, which has another name.
-    std::vector<std::string> names;
-    (void)files.List(folder, names);
-    for (const std::string& name : names) {
-        if ((name.ends_with(cScore::Ending) || name == favourites) && files.Same(path, folder + name))
-            return true;
-    }
-    const std::string store = gData->Layer().Settings.Path(gData->ProdName());
-    if (store.empty()) return false;
-    const auto [storeFolder, storeName] = Parts(store);
-    return LeadsTo(path, storeFolder, storeName, "") || files.Same(path, store);
-}
-
-FileError WhyNotReplaced(const std::string& path) {
-    if (IsOwn(path)) return "It belongs to the program itself";
-    return gData->Layer().Files.Protection(path);
-}
-
 }  // namespace
 
 bool cScore::WriteStat(const std::string& FileName, const Progress& progress) const {
@@ -186,14 +149,8 @@ bool cScore::WriteStat(const std::string& FileName, const Progress& progress) co
 
 void cScore::ExportStat() {
     Forms& forms = gData->Layer().Forms;
-    std::optional<std::string> file;
-    for (bool again = true; again;) {
-        file = forms.AskSaveFile("Scoreboard", "Text File (*.txt) |*.txt");
-        if (!file || file->empty()) return;
-        const FileError fault = WhyNotReplaced(*file);
-        again = fault.has_value();
-        if (fault) forms.InformCritical("The statistics are not written to " + *file + ": " + *fault);
-    }
+    const auto file = mOwnFiles::AskTarget("Scoreboard", "Text File (*.txt) |*.txt", "The statistics are");
+    if (!file) return;
     bool cancelled = false;
     const auto goOn = [&](int percent) {
         cancelled = !forms.ShowProgress("Exporting the statistics", percent);
