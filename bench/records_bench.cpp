@@ -4,8 +4,12 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
+#include <utility>
 
 #include "StoreBench.h"
+#include "engine/records/Career.h"
+#include "engine/records/mCareerTables.h"
 #include "engine/records/mLog.h"
 #include "engine/records/mRanking.h"
 #include "engine/records/mSorting.h"
@@ -19,6 +23,39 @@ void Print(const char* what, double milliseconds) { mFigures::Print(what, millis
 std::size_t HeapBytes() {
     const struct mallinfo2 info = ::mallinfo2();
     return info.uordblks + info.hblkhd;
+}
+
+/// Each choice of "More Statistics", with the longest of its tables.
+std::size_t MoreStatistics() {
+    constexpr double OpenLimit = 200.0;  // beyond the load
+    std::size_t rows = 0;
+    std::optional<Career> career;
+    Career::Result result;
+    mFigures::Print("more statistics: up", Milliseconds([&] {
+                        career.emplace(gScore->Store());
+                        result = career->Work({});
+                        rows += mCareerTables::Summary(*career, result).Rows.size();
+                    }),
+                    "ms", OpenLimit);
+    const std::pair<const char*, CareerFilter> filters[] = {
+        {"all", {}},
+        {"a player", {.Player = "Player7", .Gid = 0, .Days = {}}},
+        {"a group", {.Player = {}, .Gid = 1, .Days = {}}},
+        {"12 months", {.Player = {}, .Gid = 0, .Days = mCareerTables::Days("Last 12 Months")}},
+    };
+    for (const auto& [name, filter] : filters) {
+        Print(
+            (std::string("more statistics: ") + name).c_str(), Milliseconds([&] {
+                result = career->Work(filter);
+                rows +=
+                    mCareerTables::Games(*career, result, filter, mCareerTables::GameChoice::All).Rows.size();
+            }));
+        Print((std::string("more statistics: the records of ") + name).c_str(),
+              Milliseconds([&] { rows += career->Records(filter).size(); }));
+    }
+    Print("more statistics: by week",
+          Milliseconds([&] { rows += mCareerTables::Times(result, mCareerTables::Unit::Week).Rows.size(); }));
+    return rows;
 }
 
 void Run(const RecordPlan& plan) {
@@ -59,6 +96,7 @@ void Run(const RecordPlan& plan) {
     }
     Print("log: a player and a game",
           Milliseconds([&] { rows += mLog::Select("Player7", "Klondike", mLog::ShowAll).size(); }));
+    rows += MoreStatistics();
     const RegionalDates dates = RegionalDates::Current();
     constexpr int Shown = 1000;
     Print("log: 1000 rows", Milliseconds([&] {
