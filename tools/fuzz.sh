@@ -13,7 +13,7 @@ set -euo pipefail
 seconds=${1:-600}
 shift || true
 targets=("$@")
-((${#targets[@]} > 0)) || targets=(score favourites settings settingsfile home number lab)
+((${#targets[@]} > 0)) || targets=(score import favourites settings settingsfile home number lab)
 
 ensure_packages play check fuzz
 build fuzz

@@ -11,7 +11,9 @@
 #include "engine/commands/mLoad.h"
 #include "engine/commands/mMain.h"
 #include "engine/commands/mSelect.h"
+#include "engine/records/ImportedRecords.h"
 #include "engine/records/cScore.h"
+#include "engine/records/mCareerTables.h"
 #include "engine/records/mLog.h"
 #include "engine/records/mPlayers.h"
 #include "engine/records/mPlot.h"
@@ -78,6 +80,14 @@ void LookAtAllViews() {
         Expect(static_cast<int>(found.size()) <= all, "a date filter finds more than there is");
     }
     for (const mStatistics::DateRange& range : mStatistics::DateRanges) (void)mStatistics::Dates(range);
+    const Career career(gScore->Store());
+    const Career::Result result = career.Work({});
+    Expect(result.All.Played == all, "a career leaves games out");
+    for (const auto unit : {mCareerTables::Unit::Week, mCareerTables::Unit::Month}) {
+        (void)mCareerTables::Times(result, unit);
+        (void)mPlot::Make(mPlot::Kind::Periods, mCareerTables::TimeCharts(result, unit).Played);
+    }
+    (void)mCareerTables::Summary(career, result);
     (void)mRanking::TopRows();
     for (const char* key : mRanking::FinishedKeys) (void)mRanking::FinishedRows(key);
     Expect(mStatistics::GameRows().size() == static_cast<std::size_t>(gData->TotalGames()),
@@ -110,6 +120,28 @@ void ScoreFile(std::string_view bytes) {
     Expect(gScore->ScoreTop() == read + 1, "the new record is not one more");
     Expect(gScore->GetScore(read + 1).gName == "Klondike", "the new record is not the last");
     gScore->CloseScore();
+}
+
+void ImportedFile(std::string_view bytes) {
+    Engine engine;
+    const auto put = [&](std::string_view content) { engine.Layer.Files.Contents["/away/file"] = content; };
+    put(bytes);
+    ImportedRecords file;
+    if (!file.Read("/away/file")) return;
+    const std::string player = gData->CurPlayer();
+    const int found = file.Preview(player, {}).New;
+    Expect(file.AddTo(player, {}), "records cannot be added");
+    Expect(file.Preview(player, {}).New == 0, "what was added is still new");
+    gScore->OpenAllScore();
+    Expect(gScore->ScoreTop() == found, "a record that was added cannot be read");
+    const Career career(gScore->Store());
+    const auto all = [](int) { return true; };
+    put(mCareerTables::RecordsCsv(gScore->Store(), career.Records({}), all));
+    ImportedRecords again;
+    Expect(again.Read("/away/file"), "an export cannot be read");
+    const ImportedRecords::Count count = again.Preview(player, {});
+    Expect(count.New == 0 && count.There == found && again.Unreadable() == 0,
+           "an export is not what was read");
 }
 
 void FavouritesFile(std::string_view bytes) {

@@ -10,6 +10,8 @@ namespace mFuzz {
 
 /// As a player's score file: reading, every view, the export, and appending behind it.
 void ScoreFile(std::string_view bytes);
+/// As a file of records from elsewhere: read, added to a player, exported and read again.
+void ImportedFile(std::string_view bytes);
 /// As the favourites file: reading, appending, reading again.
 void FavouritesFile(std::string_view bytes);
 /// As the values of the settings store, a line "section/key=value" each: the program starts and plays.
@@ -23,8 +25,9 @@ struct Target {
     const char* Name;  ///< also the folder of its corpus
     void (*Run)(std::string_view bytes);
 };
-inline constexpr std::array<Target, 5> Targets{{
+inline constexpr std::array<Target, 6> Targets{{
     {"score", ScoreFile},
+    {"import", ImportedFile},
     {"favourites", FavouritesFile},
     {"settings", SettingValues},
     {"number", GameNumbers},
