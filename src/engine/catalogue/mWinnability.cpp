@@ -32,4 +32,14 @@ const Winnability* Find(std::string_view game) {
     return found == rows.end() ? nullptr : &*found;
 }
 
+bool IsMostlyWinnable(const Winnability& found) {
+    constexpr std::int64_t Whole = 100;
+    return found.Won * Whole >= std::int64_t{MostlyPercent} * found.Deals;
+}
+
+bool IsHard(const Winnability& found) {
+    constexpr std::int64_t Whole = 100;
+    return (std::int64_t{found.Won} + found.Unknown) * Whole <= std::int64_t{HardPercent} * found.Deals;
+}
+
 }  // namespace mWinnability

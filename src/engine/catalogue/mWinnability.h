@@ -25,4 +25,11 @@ namespace mWinnability {
 /// The row of a game, or nullptr where it was not tried.
 [[nodiscard]] const Winnability* Find(std::string_view game);
 
+/// At least so many percent of the deals were won: the game is mostly winnable.
+inline constexpr int MostlyPercent = 80;
+[[nodiscard]] bool IsMostlyWinnable(const Winnability& found);
+/// At most so many percent of the deals can be won, those without an answer counted as won: the game is hard.
+inline constexpr int HardPercent = 20;
+[[nodiscard]] bool IsHard(const Winnability& found);
+
 }  // namespace mWinnability

@@ -8,6 +8,7 @@
 #include <iterator>
 #include <utility>
 
+#include "engine/catalogue/mWinnability.h"
 #include "engine/help/mHelpPages.h"
 #include "engine/help/mRules.h"
 #include "engine/help/mRulesFacts.h"
@@ -66,6 +67,14 @@ bool AnyRedeal(const Facts& facts, int) { return facts.Redeals != 0; }
 bool NoRedeal(const Facts& facts, int) { return facts.Redeals == 0; }
 bool EndlessRedeals(const Facts& facts, int) { return facts.Redeals < 0; }
 bool HasRedeals(const Facts& facts, int redeals) { return facts.Redeals == redeals; }
+bool MostlyWinnable(const Facts& facts, int) {
+    const Winnability* found = mWinnability::Find(facts.Game->Name);
+    return found && mWinnability::IsMostlyWinnable(*found);
+}
+bool Hard(const Facts& facts, int) {
+    const Winnability* found = mWinnability::Find(facts.Game->Name);
+    return found && mWinnability::IsHard(*found);
+}
 
 // Several phrases may mean the same. Of two that begin at the same word the longer one is meant.
 constexpr auto Meanings = std::to_array<Meaning>({
@@ -100,6 +109,8 @@ constexpr auto Meanings = std::to_array<Meaning>({
     {"redeal # time", Asks::Numbers, HasRedeals},
     {"redeal without limit", Asks::Numbers, EndlessRedeals},
     {"unlimited redeal", Asks::Numbers, EndlessRedeals},
+    {"mostly winnable", Asks::Numbers, MostlyWinnable},
+    {"hard", Asks::Numbers, Hard},
     {"played", Asks::Played, nullptr},
     {"played by me", Asks::Played, nullptr},
     {"never played", Asks::NeverPlayed, nullptr},
@@ -215,10 +226,8 @@ Wanted FacetAt(const Words& words, std::size_t at) {
     return best;
 }
 
-}  // namespace
-
-const std::vector<std::vector<Facet>>& Menu() {
-    static const std::vector<std::vector<Facet>> menu{
+std::vector<std::vector<Facet>> Usual() {
+    return {
         {{"One deck", "one deck"}, {"Two decks", "two decks"}},
         {{"Free cells", "free cells"}, {"No free cells", "no free cells"}},
         {{"Stock", "stock"}, {"No stock", "no stock"}, {"All cards open", "all cards open"}},
@@ -230,6 +239,25 @@ const std::vector<std::vector<Facet>>& Menu() {
          {"Never played", "never played"},
          {"In favorites", "in favorites"}},
     };
+}
+
+}  // namespace
+
+const std::vector<std::vector<Facet>>& Menu() {
+    static const std::vector<std::vector<Facet>> menu = [] {
+        std::vector<std::vector<Facet>> all = Usual();
+        // Only where a game is known to be of that kind: figures have been measured for some of them, or
+        // none.
+        std::vector<Facet> wins;
+        const auto offer = [&wins](const Facet& facet, bool (*holds)(const Winnability&)) {
+            if (std::any_of(mWinnability::All().begin(), mWinnability::All().end(), holds))
+                wins.push_back(facet);
+        };
+        offer({"Mostly winnable", "mostly winnable"}, mWinnability::IsMostlyWinnable);
+        offer({"Hard", "hard"}, mWinnability::IsHard);
+        if (!wins.empty()) all.push_back(std::move(wins));
+        return all;
+    }();
     return menu;
 }
 

@@ -5,6 +5,7 @@
 #include <cctype>
 #include <utility>
 
+#include "engine/catalogue/mWinnability.h"
 #include "engine/help/mRules.h"
 #include "engine/help/mRulesWords.h"
 #include "engine/state/cData.h"
@@ -60,6 +61,8 @@ const std::vector<Searchable>& Texts() {
 }  // namespace
 
 const std::vector<Page>& All() {
+    static_assert(mWinnability::MostlyPercent == 80 && mWinnability::HardPercent == 20,
+                  "as a page below says");
     static const std::vector<Page> pages{
         {"mouse",
          "Playing with the mouse",
@@ -87,6 +90,20 @@ const std::vector<Page>& All() {
           "Every move can be undone and redone, without limit. Redeals and other uses of the stock that a "
           "game "
           "counts stay counted when they are undone."}},
+        {"choosing",
+         "Choosing a game",
+         {"The field above the lists of games searches them by words of their names and rules while you "
+          "type. "
+          "Escape clears it, Down leads to the list, and Return plays the game that is selected there.",
+          "Some words are kinds of games, such as two decks, free cells, redeals twice, in suit, all cards "
+          "open, never played or in favorites. Kinds, beside the field, offers them, and they can be put "
+          "together with each other and with other words.",
+          "Mostly winnable and hard are known of games whose deals were tried by a solver, which sees all "
+          "cards. A game is mostly winnable if at least 80 of 100 deals were won. It is hard if at most 20 "
+          "of "
+          "100 deals can be won, those counted in for which no answer was found. Kinds offers them only "
+          "where "
+          "such games are known."}},
         {"keys",
          "Keys",
          {"The arrow keys move a frame over the piles and the cards in them. Home and End lead to the first "

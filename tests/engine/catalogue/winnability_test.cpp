@@ -91,6 +91,20 @@ TEST(Winning, TheWordsClaimNoMoreThanWasFound) {
     EXPECT_EQ(mRulesWins::Facts(twoDecks, nullptr), "Two decks");
 }
 
+TEST(Winning, KindsOfGamesAreProvedByTheDeals) {
+    struct {
+        int Won, Lost, Unknown;
+        bool Mostly, Hard;
+    } const rows[] = {{80, 20, 0, true, false},   {79, 21, 0, false, false}, {80, 0, 20, true, false},
+                      {20, 80, 0, false, true},   {21, 79, 0, false, false}, {10, 80, 10, false, true},
+                      {10, 79, 11, false, false}, {0, 0, 100, false, false}};
+    for (const auto& [won, lost, unknown, mostly, hard] : rows) {
+        const Winnability found{"", 0, 0, 100, won, lost, unknown, 0};
+        EXPECT_EQ(mWinnability::IsMostlyWinnable(found), mostly) << won << '/' << lost;
+        EXPECT_EQ(mWinnability::IsHard(found), hard) << won << '/' << lost;
+    }
+}
+
 TEST(Winning, ThePageOfAGameTellsItsFigures) {
     const Engine engine;
     for (const int id : mRules::AllGames()) {

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "engine/catalogue/mWinnability.h"
 #include "engine/commands/mFind.h"
 #include "engine/commands/mGen.h"
 #include "engine/commands/mMain.h"
@@ -71,6 +72,15 @@ TEST_F(Find, WordsAndFacetsTogetherFindExactlyTheseGames) {
     };
     for (const auto& [query, games] : rows) EXPECT_THAT(Games(query), ElementsAreArray(games)) << query;
     EXPECT_THAT(Games(" "), SizeIs(gData->TotalGames()));
+    const std::pair<const char*, bool (*)(const Winnability&)> wins[] = {
+        {"mostly winnable", mWinnability::IsMostlyWinnable}, {"hard", mWinnability::IsHard}};
+    for (const auto& [query, holds] : wins) {
+        Names games;
+        for (const Winnability& row : mWinnability::All()) {
+            if (holds(row)) games.emplace_back(row.Game);
+        }
+        EXPECT_EQ(Games(query), games);
+    }
     // The two of a kind share all games between them.
     for (const auto& [one, other] : {std::pair{"stock", "no stock"}, {"free cells", "no free cells"}}) {
         EXPECT_EQ(Games(one).size() + Games(other).size(), static_cast<std::size_t>(gData->TotalGames()))
