@@ -21,6 +21,7 @@
 #include "window/records/frmGameStat.h"
 #include "window/records/frmHighScore.h"
 #include "window/records/frmLogStat.h"
+#include "window/records/frmMoreStat.h"
 #include "window/records/frmOrgFav.h"
 #include "window/records/frmPlayFav.h"
 #include "window/records/frmPlayers.h"
@@ -127,6 +128,12 @@ void Run(const RecordPlan& plan) {
         const auto dialog = Open<frmGameStat>("frmGameStat", limit);
         ShowTabs(*dialog);
         for (const char* combo : {"cmGames", "imcDate", "imcPlayer"}) Choose(*dialog, combo);
+        constexpr double OverLimit = 200.0;  // over a store that is loaded
+        const auto more = Open<frmMoreStat>("frmMoreStat", OverLimit);
+        ShowTabs(*more);
+        for (const char* combo : {"imcPlayer", "imcGroup", "imcPeriod"}) Choose(*more, combo);
+        more->findChild<QTabWidget*>()->setCurrentIndex(2);  // the longest of its tables
+        for (const char* combo : {"imcPlayer", "imcGroup", "imcPeriod", "imcGames"}) Choose(*more, combo);
     }
     {
         const auto dialog = Open<frmHighScore>("frmHighScore", limit);

@@ -110,8 +110,7 @@ void Run(const RecordPlan& plan) {
     };
     for (int column = 0; column < static_cast<int>(mLog::Columns.size()); ++column) {
         Print((std::string("log: sorted by ") + mLog::Columns.at(static_cast<std::size_t>(column))).c_str(),
-              Milliseconds(
-                  [&] { rows += mSorting::Order(mLog::Keys(all, column, ranks), true).size(); }));
+              Milliseconds([&] { rows += mSorting::Order(mLog::Keys(all, column, ranks), true).size(); }));
     }
     mFigures::Print("export",
                     Milliseconds([&] { rows += gScore->WriteStat(store.Folder + "/export.txt") ? 1 : 0; }),

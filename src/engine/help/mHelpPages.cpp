@@ -173,8 +173,19 @@ const std::vector<Page>& All() {
           "Score, moves and time each have a scale of their own in the charts. The pointer on a bar shows "
           "its "
           "figures.",
+          "More, in Game Statistics, tells of streaks and bests, of how often you win from week to week and "
+          "at "
+          "which time of day, and of how many of the games you have played and won. A best time and the "
+          "fewest "
+          "moves are those of games that were won. Player, group and dates above the lists choose the "
+          "records "
+          "that count.",
           "All statistics can be exported to a text file, and they can be cleared. Clearing cannot be "
-          "undone."}},
+          "undone.",
+          "Export List, under More, writes the list in sight as comma-separated values, which spreadsheets "
+          "read. Import Records takes such a list of records, or a score file of another machine, tells what "
+          "in it is new to a player, and adds that. A record that the player has already is not added "
+          "again."}},
         {"players",
          "Players",
          {"Up to 20 players keep records of their own. Players, in the Tools menu, adds, renames, deletes "

@@ -5,7 +5,11 @@
 #include "engine/records/mPlayers.h"
 #include "window/controls/mDialog.h"
 
-LoadedScores::LoadedScores() : wasLoaded_(gScore->IsLoaded()) {
+LoadedScores::LoadedScores(Reading reading) : wasLoaded_(gScore->IsLoaded()) {
+    if (reading == Reading::Always || !wasLoaded_) Load();
+}
+
+void LoadedScores::Load() {
     {
         mPlayers::Mend();  // what the views show are all players
         const mDialog::BusyPointer busy;

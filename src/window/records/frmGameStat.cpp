@@ -20,6 +20,7 @@
 #include "window/controls/mDialog.h"
 #include "window/look/ilsIcons.h"
 #include "window/records/ChartView.h"
+#include "window/records/frmMoreStat.h"
 #include "window/records/mColumns.h"
 
 namespace {
@@ -188,11 +189,13 @@ QBoxLayout* frmGameStat::BuildButtons() {
     };
     cmdClear = button("cmdClear", tr("Clear Statistics"));
     cmdExport = button("cmdExport", tr("Export Statistics"));
+    cmdMore = button("cmdMore", tr("&More"));
     line->addStretch();
     cmdClose = button("cmdClose", tr("Close"));
     cmdClose->setDefault(true);
     connect(cmdClear, &QPushButton::clicked, this, [] { gScore->ClearStat(); });
     connect(cmdExport, &QPushButton::clicked, this, &frmGameStat::Export);
+    connect(cmdMore, &QPushButton::clicked, this, &frmGameStat::More);
     connect(cmdClose, &QPushButton::clicked, this, &QDialog::accept);
     return line;
 }
@@ -237,4 +240,10 @@ void frmGameStat::Export() {
     gScore->ExportStat();
     // The files were read again for it: lists and charts are not to tell of different records.
     ShowAll();
+}
+
+void frmGameStat::More() {
+    frmMoreStat more(this);
+    more.exec();
+    if (more.HasRead()) ShowAll();  // records were added, and the store was read again
 }

@@ -32,6 +32,7 @@ private:
     void ShowDates();
     void ShowPlayer();
     void Export();
+    void More();
 
     LoadedScores scores_;
     QTabWidget* SSTab1 = nullptr;
@@ -61,5 +62,6 @@ private:
 
     QPushButton* cmdClear = nullptr;
     QPushButton* cmdExport = nullptr;
+    QPushButton* cmdMore = nullptr;
     QPushButton* cmdClose = nullptr;
 };

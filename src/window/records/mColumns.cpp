@@ -51,12 +51,20 @@ QStringList Figures(std::string_view heading) {
     return {};
 }
 
+/// Headings of columns that hold texts; of some of them the rows come sorted.
+constexpr std::array<std::string_view, 5> Texts{"Game", "Player", "Status", "Group", "Record"};
+constexpr std::array<std::string_view, 4> Periods{"Day", "Month", "Year", "Time of Day"};
+
+bool IsOf(std::span<const std::string_view> headings, std::string_view heading) {
+    return std::find(headings.begin(), headings.end(), heading) != headings.end();
+}
+
 mSorting::Values ValuesOf(std::string_view heading) {
     using mSorting::Values;
-    if (heading == "Date") return Values::Date;
+    if (heading == "Date" || heading == "Week from") return Values::Date;
     if (heading == "Time") return Values::Time;
-    if (heading == "Day" || heading == "Month" || heading == "Year") return Values::Given;
-    if (heading == "Game" || heading == "Player" || heading == "Status") return Values::Text;
+    if (IsOf(Periods, heading)) return Values::Given;
+    if (IsOf(Texts, heading)) return Values::Text;
     return Values::Number;
 }
 
@@ -71,7 +79,7 @@ TableColumn Column(std::string_view heading) {
         column.Usual = Dates();
     } else if (heading == "Status") {
         column.Usual = {QStringLiteral("Running")};
-    } else if (heading != "Day" && heading != "Month" && heading != "Year") {
+    } else if (!IsOf(Periods, heading) && !IsOf(Texts, heading) && heading != "Week from") {
         column.Side = Qt::AlignRight;
         column.Usual = Figures(heading);
     }
@@ -102,6 +110,7 @@ void OfferDeals(TextTable* table, const TableModel* rows, std::function<QString(
     });
     table->Commands()->OfferDeals([=](int row) -> std::optional<tFav> {
         const QString name = named < 0 ? game() : rows->CellText(row, named);
+        if (name.isEmpty()) return std::nullopt;
         return tFav{name.toStdString(), rows->CellText(row, number).toStdString()};
     });
 }

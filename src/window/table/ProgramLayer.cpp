@@ -67,7 +67,7 @@ std::optional<std::string> ProgramForms::AskSaveFile(const std::string& name, co
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     QFileDialog dialog(Owner(main_), ProductName(), documents, shown);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("txt"));
+    dialog.setDefaultSuffix(shown.section(QStringLiteral("*."), 1).section(QLatin1Char(')'), 0, 0));
     dialog.selectFile(QString::fromStdString(name));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return dialog.selectedFiles().constFirst().toStdString();
