@@ -2,8 +2,13 @@
 #include "SolverArguments.h"
 
 #include <charconv>
+#include <cstdio>
+#include <exception>
 #include <sstream>
 
+#include <fmt/format.h>
+
+#include "engine/catalogue/families.h"
 #include "engine/state/mRandom.h"
 #include "solver/Games.h"
 
@@ -56,7 +61,7 @@ SolverArguments::SolverArguments(int count, char** arguments, std::size_t number
         }
     }
     if (plain.empty()) throw ArgumentError("Which game?");
-    Game = Solver::FindGame(plain[0]);
+    Game = mFamilies::Find(plain[0]);
     if (Game == nullptr) throw ArgumentError("There is no game \"" + plain[0] + "\".");
     Numbers = Solver::NumbersOf(*Game);
     const std::size_t wanted = Decks ? 0 : numbers;
@@ -81,4 +86,18 @@ mDeal::Opening DealDeck(const cGames& game, const std::vector<int>& deck) {
     RandomSource source;
     static_cast<void>(mDeal::Shuffle(game.TotalCards(), 0, source));
     return mDeal::Deal(game, std::vector<short>(deck.begin(), deck.end()), source);
+}
+
+int RunTool(int count, char** arguments, std::size_t numbers, const std::string& deckOption,
+            int (*run)(const SolverArguments&)) {
+    constexpr int BadArguments = 64;
+    try {
+        return run(SolverArguments(count, arguments, numbers, deckOption));
+    } catch (const ArgumentError& error) {
+        fmt::print(stderr, "{}\n", error.what());
+        return BadArguments;
+    } catch (const std::exception& error) {
+        fmt::print(stderr, "{}\n", error.what());
+        return OwnFault;
+    }
 }

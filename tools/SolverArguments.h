@@ -17,8 +17,8 @@ class ArgumentError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// The exit status for one.
-inline constexpr int BadArguments = 64;
+/// The exit status of a tool that found a fault in itself.
+inline constexpr int OwnFault = 70;
 
 struct SolverArguments {
     /// Reads NAME, `numbers` game numbers or an option with a deck or decks in their place (`deckOption`),
@@ -42,3 +42,8 @@ struct SolverArguments {
 /// The opening from a deck; what the deal draws goes on from where a shuffle with the number 0 leaves the
 /// source.
 [[nodiscard]] mDeal::Opening DealDeck(const cGames& game, const std::vector<int>& deck);
+
+/// What main does in each of the tools: reads the command line and calls `run` for the exit status. Errors go
+/// to standard error; after a bad command line the status is 64.
+[[nodiscard]] int RunTool(int count, char** arguments, std::size_t numbers, const std::string& deckOption,
+                          int (*run)(const SolverArguments&));

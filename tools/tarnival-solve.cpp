@@ -13,7 +13,6 @@
 //   --single       only top cards are lifted, one at a time
 //   --autoplay     cards go to the foundations by themselves, as in the program with Autoplay on
 #include <cstdio>
-#include <exception>
 
 #include <fmt/format.h>
 
@@ -51,15 +50,4 @@ int Solve(const SolverArguments& arguments) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    try {
-        return Solve(SolverArguments(argc, argv, 1, "--deck"));
-    } catch (const ArgumentError& error) {
-        fmt::print(stderr, "{}\n", error.what());
-        return BadArguments;
-    } catch (const std::exception& error) {
-        fmt::print(stderr, "{}\n", error.what());
-        constexpr int OwnFault = 70;
-        return OwnFault;
-    }
-}
+int main(int argc, char** argv) { return RunTool(argc, argv, 1, "--deck", Solve); }

@@ -176,21 +176,9 @@ int Count(const SolverArguments& arguments) {
     fmt::print("{}: {} deals, {} won, {} lost, {} unknown, {} moves, {} states, {:.2f} s\n",
                arguments.Game->Name, totals.Deals, totals.Won, totals.Lost, totals.Unknown,
                totals.MedianLength(), totals.States, time.count());
-    constexpr int OwnFault = 70;
     return failed ? OwnFault : 0;
 }
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    try {
-        return Count(SolverArguments(argc, argv, 2, "--decks"));
-    } catch (const ArgumentError& error) {
-        fmt::print(stderr, "{}\n", error.what());
-        return BadArguments;
-    } catch (const std::exception& error) {
-        fmt::print(stderr, "{}\n", error.what());
-        constexpr int OwnFault = 70;
-        return OwnFault;
-    }
-}
+int main(int argc, char** argv) { return RunTool(argc, argv, 2, "--decks", Count); }

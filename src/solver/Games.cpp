@@ -1,20 +1,9 @@
-// Games by name, from the tables of the families.
+// A game's numbers from its row, and what makes a deck.
 #include "solver/Games.h"
 
 #include "engine/catalogue/definition.h"
-#include "engine/catalogue/families.h"
 
 namespace Solver {
-
-std::vector<const Definition*> AllGames() {
-    std::vector<const Definition*> games;
-    for (const Family& family : Families) {
-        for (const Definition& game : family.Games()) games.push_back(&game);
-    }
-    return games;
-}
-
-const Definition* FindGame(std::string_view name) { return mFamilies::Find(name); }
 
 cGames NumbersOf(const Definition& game) {
     cGames numbers;

@@ -1,8 +1,6 @@
-// The games by their names, and a deal of one as a search begins it.
+// What a search is given: the numbers of a game, and a deck.
 #pragma once
 
-#include <string>
-#include <string_view>
 #include <vector>
 
 #include "engine/state/cGames.h"
@@ -12,11 +10,7 @@ struct Definition;
 
 namespace Solver {
 
-/// The game of that name, or nullptr.
-[[nodiscard]] const Definition* FindGame(std::string_view name);
-/// All games, in the order of the catalogue.
-[[nodiscard]] std::vector<const Definition*> AllGames();
-/// Its numbers.
+/// The numbers of a game.
 [[nodiscard]] cGames NumbersOf(const Definition& game);
 
 /// Whether the values are those of a whole pack, each once.

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "SolutionReplay.h"
+#include "engine/catalogue/families.h"
 #include "engine/commands/mGen.h"
 #include "engine/state/RunningGame.h"
 #include "engine/state/cData.h"
@@ -73,7 +74,7 @@ TEST(SolverAndEngine, HaveTheSameMovesInAllGames) {
     gRunning.Quiet = true;
     const int positions = Positions(15);
     std::uint32_t seed = 1;
-    for (const Definition* game : Solver::AllGames()) {
+    for (const Definition* game : mFamilies::All()) {
         EXPECT_EQ(PlayBoth(*game, false, positions, ++seed), "");
         EXPECT_EQ(PlayBoth(*game, true, positions / 3, ++seed), "");
     }

@@ -17,4 +17,12 @@ const Definition* Find(std::string_view name) {
     return nullptr;
 }
 
+std::vector<const Definition*> All() {
+    std::vector<const Definition*> games;
+    for (const Family& family : Families) {
+        for (const Definition& game : family.Games()) games.push_back(&game);
+    }
+    return games;
+}
+
 }  // namespace mFamilies

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 struct Definition;
 
@@ -39,5 +40,7 @@ namespace mFamilies {
 
 /// The game of that name, or nullptr where no family has one.
 [[nodiscard]] const Definition* Find(std::string_view name);
+/// All games, in the order of the catalogue.
+[[nodiscard]] std::vector<const Definition*> All();
 
 }  // namespace mFamilies
