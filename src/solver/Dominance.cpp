@@ -1,51 +1,72 @@
-// Two dominances: cards that go home at once, and cards that come back only to be used.
+// Three dominances: cards that go home at once, cards that are laid at once on the one card that takes them,
+// and cards that come back only to be used.
 //
-// Premises of both (`chains_`, asked once a game, and TableauAlone, asked of the position):
+// Premises of all (`chains_`, asked once a game, and TableauAlone, asked of the position):
 //  - The foundations are chains. After each card comes a card of exactly one class of cards that the rules
-//  cannot
-//    tell apart, no class comes after two others, all piles build by one rule, and there is a pile for every
-//    base card. Then the foundations can hold a set of cards exactly when of no class fewer cards are home
-//    than of the class after it, and how they lie is determined by that set, up to like cards and like piles.
+//    cannot tell apart, no class comes after two others, all piles build by one rule, and there is a pile for
+//    every base card. Then the foundations can hold a set of cards exactly when of no class fewer cards are
+//    home than of the class after it, and how they lie is determined by that set, up to like cards and like
+//    piles.
 //  - Nothing is dealt onto the tableau or gathered from it any more, nothing refills it, and no card goes
-//  home by
-//    itself: the tableau changes by the player's moves alone.
+//    home by itself: the tableau changes by the player's moves alone.
 //
-// 1. Safe cards. Let c be a top card that fits on a foundation. Let R hold c, all cards that fit on a card of
-// R in the tableau, and all cards that come before a card of R on the foundations, and let all of R but c be
-// home. Then playing c at once loses nothing. Proof: take any line L that wins from the position P, and let
-// P' be P with c home. Follow L from P' so that the position is always that of L with all of R home.
-//    - Cards of R lie in L on their piles only under cards of R: what fits on a card of R is in R, c lies on
-//      top in P, and all others came from the foundations. So taking R out leaves every pile of L a lower
-//      part of itself, and with it the face, the place and the neighbours of every other card.
-//    - A move of L of a group whose lowest card is in R is left out, as the whole group is in R. Another
-//    group loses
-//      its upper part at most: it can be lifted, as the rest of a run is a run and empty places are no fewer,
-//      and it lands, as the card or the empty place that it lands on is the same (it is not in R: what fits
-//      on R is in R).
-//    - A card outside R goes to a foundation or comes back as in L: R is closed under what comes before, so
-//      the set of cards home stays one that the foundations can hold.
-//    - A press of the stock that brings a card of R to the waste is left out. One card at a time that shifts
-//    nothing;
-//      where three come at once, the other cards of the waste would change places, and a card of the waste is
-//      not safe.
-// The line so made wins and has no more moves of cards than L. Without cards that come back the set is
-// smaller: it is enough that all cards that fit on c are home, as then nothing will ever lie on c; R is c
-// alone.
+// 1. Safe cards. Let c be a top card that fits on a foundation. Let S hold c, all cards that may be laid on a
+// card of S in the tableau (or continue a lifted run on it), and, where cards come back, all that come before
+// a card of S on the foundations. Cards of S that are at home now need not be followed further where nothing
+// comes back. Let each other card of S be at home, or have all cards that come before it at home: it could
+// follow as soon as it is on top. Then playing c at once loses nothing. Proof: take any line L that wins from
+// the position P, and let P' be P with c home. Follow L from P' so that the position is always that of L with
+// a subset H of S home besides.
+//    - Cards of H lie in L on their piles only under cards of H: c lies on top in P, and what L lays on a
+//      card of H, or brings back, joins H (below). So taking H out leaves every pile of L a lower part of
+//      itself, and with it the face, the place and the neighbours of every other card.
+//    - L lays cards on a card of H: they are in S. In P' they go home from where they lie, the topmost first,
+//      and join H. They can: what comes before them was home in P, and no card of S comes back in P'
+//      afterwards.
+//    - L brings a card of S back from a foundation: it stays home in P' and joins H. Another card can come
+//      back as well in P': what comes after it is not in S, as S holds what comes before.
+//    - L moves a group whose lowest card is in H: the whole group is, and the move is left out. Another group
+//      loses its upper part at most: it can be lifted, as the rest of a run is a run and empty places are no
+//      fewer, and it lands, as the card or the empty place that it lands on is the same, or is in H (above).
+//    - L plays a card of H home: left out. Any other goes as in L.
+//    - A press of the stock that brings a card of H to the waste is left out. One card at a time that shifts
+//      nothing; where three come at once, the other cards of the waste would change places, and c may not be
+//      a card of the waste.
+// The line so made wins and has no more moves than L: each card that goes home early does so in place of a
+// move of L that is left out, c in place of its own way home.
 //
-// 2. Returns. In a line that wins, let a card c come back from a foundation at some point, and ask for the
+// 2. The one place (`onePlace_`). Let each card fit on one card of the tableau only, let that one take no
+// other and come right after it at home, and let ranks not wrap around; let cards be moved alone, or with all
+// that may lie on them and without a limit; and let nothing but the tableau and the foundations take cards.
+// Let y, on top or the lowest of a run, fit on a top card x that is settled: x lies on the card that it fits
+// on and no empty pile takes it, or it lies at the bottom and fits on nothing, or runs are moved as a whole.
+// Then laying y on x at once loses nothing. Proof: take any line L that wins from P, and follow it from P',
+// which is P with y, and what lies on it, on x. Until y goes home in L it stays on x in P'.
+//    - L moves y: left out, as y lies on x. Nothing else can be laid on x.
+//    - What L lays on y is laid on y in P', and y goes home from there when it does in L.
+//    - x stays in L until it goes home, and y goes before it. Or it moves from the bottom to an empty pile,
+//      which changes nothing: left out. Or it is moved as the lowest of a run or inside of one: in P' with y
+//      on it, which is a run as well. That never lands on what lies on y, all of whose ranks are beyond its
+//      own.
+//    - What lay under y is on top, and open, in P' no later than in L; empty piles are no fewer.
+// The line so made wins and has no more moves than L, the laying of y not counted, which no one chooses.
+//
+// 3. Returns. In a line that wins, let a card c come back from a foundation at some point, and ask for the
 // next move for which it matters: a card is laid on c, or the card that was under c on its foundation comes
 // back too. Moves before that are as legal with c still at home: piles are only shorter and places emptier.
 // So c may come back just before. If c goes home again first, both moves are left out; if c moves on, alone
 // or on top of a run, it comes back straight to where it lies last. If a like card c' goes home in its place,
 // c' can go at once where c went. So only chains matter: cards come back, each to be laid upon or to free the
 // one below it, until a card is laid on the last; a card that comes back to a free cell can only free the one
-// below it. None of this makes a line longer. A card that comes back while all that it could hold is home (it
-// would be safe at once) can never be used.
+// below it. None of this makes a line longer. A card that comes back and is safe there would go home at once,
+// and loses nothing by that: it need not come.
 //
-// Both shorten or keep any line, so that a search that follows both meets a shorter way to win at each step.
+// None of them makes a line longer, so that a search that follows all meets a shorter way to win at each move
+// that it chooses.
 #include "solver/Dominance.h"
 
 #include <algorithm>
+#include <bit>
 
 #include "solver/UsefulMoves.h"
 
@@ -82,30 +103,49 @@ bool AreChains(const Rules& rules) {
     return true;
 }
 
+// Whether each card fits on one card only, that one takes no other and comes right after it at home, and
+// ranks do not wrap around; and cards move alone, or with all that may lie on them. Nothing but the tableau
+// and the foundations takes cards.
+bool HaveOnePlace(const Rules& rules, const std::array<KindSet, Kinds>& before) {
+    if (rules.TotalCards > Kinds || rules.NoH2H || rules.HomeMax != 0) return false;
+    if (rules.FreeCells && rules.ResPiles > 0) return false;
+    if (rules.MultiMove && (rules.LimitedRuns || rules.LiftFits != rules.HomeFits)) return false;
+    const KindSet pack = InPack(rules);
+    KindSet seen = 0;
+    bool up = false;
+    bool down = false;
+    for (int kind = 0; kind < Kinds; ++kind) {
+        const KindSet fits = rules.HomeFits[Index(kind)] & pack;
+        if (fits == 0 || !Has(pack, kind)) continue;
+        if (!std::has_single_bit(fits) || before[Index(kind)] != fits || (seen & fits) != 0) return false;
+        seen |= fits;
+        (RankOf(std::countr_zero(fits)) > RankOf(kind) ? up : down) = true;
+    }
+    return !(up && down);
+}
+
 }  // namespace
 
 Dominance::Dominance(const Rules& rules) : rules_(rules), chains_(AreChains(rules)) {
     const KindSet pack = InPack(rules);
-    std::array<KindSet, Kinds> before{};
     for (int a = 0; a < Kinds; ++a) {
+        if (!Has(pack, a)) continue;
+        above_[Index(a)] = (rules.HomeFits[Index(a)] | rules.LiftFits[Index(a)]) & pack;
         for (int b = 0; b < Kinds; ++b) {
-            if (Has(rules.GoalFits[0][Index(a)] & pack, b) && Has(pack, a)) before[Index(b)] |= Only(a);
+            if (Has(rules.GoalFits[0][Index(a)] & pack, b)) before_[Index(b)] |= Only(a);
         }
     }
     for (int kind = 0; kind < Kinds; ++kind) {
-        KindSet needed = rules.HomeFits[Index(kind)] & pack;
-        if (rules.Returns) {
-            needed |= before[Index(kind)];
-            for (KindSet last = 0; last != needed;) {
-                last = needed;
-                for (int other = 0; other < Kinds; ++other) {
-                    if (Has(last, other))
-                        needed |= (rules.HomeFits[Index(other)] & pack) | before[Index(other)];
-                }
+        KindSet closure = above_[Index(kind)] | before_[Index(kind)];
+        for (KindSet last = 0; last != closure;) {
+            last = closure;
+            for (int other = 0; other < Kinds; ++other) {
+                if (Has(last, other)) closure |= above_[Index(other)] | before_[Index(other)];
             }
         }
-        needed_[Index(kind)] = needed;
+        closure_[Index(kind)] = closure;
     }
+    onePlace_ = chains_ && HaveOnePlace(rules, before_);
 }
 
 bool Dominance::TableauAlone(const Position& position) const {
@@ -123,21 +163,70 @@ bool Dominance::TableauAlone(const Position& position) const {
 }
 
 bool Dominance::IsSafe(const Position& position, int kind) const {
-    return (needed_[Index(kind)] & ~position.AllHome()) == 0;
+    const KindSet away =
+        ~position.AllHome() | Only(kind);  // asked of cards at home as well: they would be away
+    const auto follows = [&](int other) {
+        return RankOf(other) == rules_.Base || (before_[Index(other)] & away) == 0;
+    };
+    if (rules_.Returns) {
+        for (KindSet left = closure_[Index(kind)] & away; left != 0; left &= left - 1) {
+            if (!follows(std::countr_zero(left))) return false;
+        }
+        return true;
+    }
+    KindSet seen = 0;
+    for (KindSet left = above_[Index(kind)] & away; left != 0;) {
+        const int other = std::countr_zero(left);
+        if (!follows(other)) return false;
+        seen |= Only(other);
+        left = (left | (above_[Index(other)] & away)) & ~seen;
+    }
+    return true;
+}
+
+std::optional<Move> Dominance::SafeHome(const Position& position, int from) const {
+    const int kind = position.TopKind(from);
+    if (!Has(position.GoalTakes(), kind)) return std::nullopt;
+    for (int goal = FirstGoal; goal < FirstGoal + rules_.GoalPiles; ++goal) {
+        if (!position.GoalAccepts(kind, goal)) continue;
+        if (!IsSafe(position, kind)) return std::nullopt;
+        return Move{Move::Kind::Play, static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(goal), 1};
+    }
+    return std::nullopt;
+}
+
+std::optional<Move> Dominance::SafeLaying(const Position& position, int from) const {
+    const int most = std::max(1, position.LiftableCards(from));
+    for (int count = 1; count <= most; ++count) {
+        if (!position.IsLiftable(from, count)) break;
+        const int kind = KindOf(position.At(from, position.Count(from) - count).Card);
+        if ((rules_.HomeUnder[Index(kind)] & position.HomeTops()) == 0) continue;
+        for (int pile = FirstHome; pile < FirstHome + rules_.HomePiles; ++pile) {
+            if (pile == from || position.IsEmpty(pile) || !position.HomeAccepts(kind, from, pile)) continue;
+            if (!position.Top(pile).Settled) return std::nullopt;
+            return Move{Move::Kind::Play, static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(pile),
+                        static_cast<std::uint8_t>(count)};
+        }
+    }
+    return std::nullopt;
 }
 
 std::optional<Move> Dominance::SafeMove(const Position& position) const {
     if (!TableauAlone(position)) return std::nullopt;
+    const bool inThrees =
+        rules_.Press == StockMove::ThreeToWaste && (!position.IsEmpty(StockPile) || position.RedealAllowed());
+    // One look at all top cards tells in most positions that there is none.
+    KindSet tops = position.HomeTops() | position.ResTops();
+    if (rules_.OpenStock && !position.IsEmpty(StockPile)) tops |= Only(position.TopKind(StockPile));
+    if (!inThrees && !position.IsEmpty(WastePile)) tops |= Only(position.TopKind(WastePile));
+    const KindSet taken = position.GoalTakes() | (onePlace_ ? position.SettledTake() : 0);
+    const bool groups = onePlace_ && rules_.MultiMove;
+    if ((tops & taken) == 0 && !groups) return std::nullopt;
+
     const auto from = [&](int pile) -> std::optional<Move> {
-        if (position.IsEmpty(pile)) return std::nullopt;
-        const int kind = position.TopKind(pile);
-        if (!IsSafe(position, kind)) return std::nullopt;
-        for (int goal = FirstGoal; goal < FirstGoal + rules_.GoalPiles; ++goal) {
-            if (!position.GoalAccepts(kind, goal)) continue;
-            return Move{Move::Kind::Play, static_cast<std::uint8_t>(pile), static_cast<std::uint8_t>(goal),
-                        1};
-        }
-        return std::nullopt;
+        if (position.IsEmpty(pile) || (!groups && !Has(taken, position.TopKind(pile)))) return std::nullopt;
+        if (const auto home = SafeHome(position, pile)) return home;
+        return onePlace_ ? SafeLaying(position, pile) : std::nullopt;
     };
     for (int pile = FirstHome; pile < FirstHome + rules_.HomePiles; ++pile) {
         if (const auto move = from(pile)) return move;
@@ -148,8 +237,6 @@ std::optional<Move> Dominance::SafeMove(const Position& position) const {
     if (rules_.OpenStock) {
         if (const auto move = from(StockPile)) return move;
     }
-    const bool inThrees =
-        rules_.Press == StockMove::ThreeToWaste && (!position.IsEmpty(StockPile) || position.RedealAllowed());
     return inThrees ? std::nullopt : from(WastePile);
 }
 

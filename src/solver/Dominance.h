@@ -14,7 +14,8 @@ class Dominance {
 public:
     explicit Dominance(const Rules& rules);
 
-    /// A card that can go to the foundations now without spoiling anything.
+    /// A move that can be made now without spoiling anything: of a card to the foundations, or of cards to
+    /// the one place where they fit.
     [[nodiscard]] std::optional<Move> SafeMove(const Position& position) const;
     /// Whether cards come back from foundations only for an immediate use.
     [[nodiscard]] bool ReturnsAreChained(const Position& position) const;
@@ -28,6 +29,8 @@ public:
 private:
     [[nodiscard]] bool TableauAlone(const Position& position) const;
     [[nodiscard]] bool IsSafe(const Position& position, int kind) const;
+    [[nodiscard]] std::optional<Move> SafeHome(const Position& position, int from) const;
+    [[nodiscard]] std::optional<Move> SafeLaying(const Position& position, int from) const;
     /// A chain in the making.
     struct Chain {
         std::vector<Move> Moves;
@@ -38,8 +41,13 @@ private:
 
     const Rules& rules_;
     bool chains_ = false;
-    std::array<KindSet, Kinds>
-        needed_{};  ///< by kind: what must be home before it is of no use in the tableau
+    bool onePlace_ = false;  ///< each card has one place in the tableau, on the card that goes home after it
+    std::array<KindSet, Kinds> before_{};  ///< by kind: what it may lie on at home
+    /// By kind: what may lie on it in the tableau.
+    std::array<KindSet, Kinds> above_{};
+    /// By kind, where cards come back: all that may be laid on it, on that, and so on, with what comes
+    /// before.
+    std::array<KindSet, Kinds> closure_{};
 };
 
 }  // namespace Solver

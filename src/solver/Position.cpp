@@ -7,7 +7,21 @@
 
 namespace Solver {
 
+namespace {
+
+constexpr std::uint64_t OfRes = 0x9E3779B97F4A7C15U;
+constexpr std::uint64_t OfGoal = 0xC2B2AE3D27D4EB4FU;
+constexpr std::uint64_t OfUpperGoal = 0x165667B19E3779F9U;
+
+}  // namespace
+
 Position::Position(const Rules& rules, const Weights& weights) : rules_(&rules), weights_(&weights) {
+    for (int pile = 0; pile < StockPile; ++pile) {
+        factors_[Index(pile)] = IsHome(pile)                            ? 1
+                                : IsRes(pile)                           ? OfRes
+                                : rules.GoalHalf(pile - FirstGoal) == 0 ? OfGoal
+                                                                        : OfUpperGoal;
+    }
     Clear();
 }
 
@@ -16,9 +30,19 @@ void Position::Clear() {
         piles_[pile][0] = Entry{};
         counts_[pile] = 0;
     }
+    sum_ = 0;
+    worth_ = 0;
     homeCopies_.fill(0);
     allHome_ = 0;
+    homeTops_.fill(0);
+    resTops_.fill(0);
+    settledTake_ = 0;
+    goalTakes_ = 0;
+    for (int goal = FirstGoal; goal < StockPile; ++goal) NoteGoal(goal);
     cardsHome_ = 0;
+    usedHome_ = 0;
+    usedRes_ = 0;
+    cardsRes_ = 0;
     redeals_ = 0;
     pileDeals_ = 0;
     undo_.clear();
@@ -46,12 +70,6 @@ void Position::Begin(const mDeal::Opening& opening) {
     undo_.clear();
 }
 
-int Position::CountEmpty(int first, int piles) const {
-    int empty = 0;
-    for (int pile = first; pile < first + piles; ++pile) empty += counts_[Index(pile)] == 0 ? 1 : 0;
-    return empty;
-}
-
 bool Position::DealsOntoPiles() const {
     constexpr int FirstPresses = 3;
     if (rules_->Gathers && RedealAllowed()) return true;
@@ -60,11 +78,7 @@ bool Position::DealsOntoPiles() const {
            (rules_->Press == StockMove::FirstThreeToPiles && pileDeals_ < FirstPresses);
 }
 
-int Position::MaxMoveCards() const {
-    const int piles = CountEmpty(FirstHome, rules_->HomePiles);
-    const int cells = CountEmpty(FirstRes, rules_->ResPiles);
-    return (cells + 1) * piles + cells;
-}
+int Position::MaxMoveCards() const { return (EmptyRes() + 1) * EmptyHome() + EmptyRes(); }
 
 int Position::LiftableCards(int pile) const {
     if (IsEmpty(pile) || !IsHome(pile) || !rules_->MultiMove) return IsEmpty(pile) ? 0 : 1;
@@ -72,24 +86,45 @@ int Position::LiftableCards(int pile) const {
     return rules_->LimitedRuns && most > 1 ? std::min(most, MaxMoveCards() + 1) : most;
 }
 
-bool Position::HomeAccepts(int kind, int from, int to) const {
-    const int count = Count(to);
-    if (count == 0) {
-        if (rules_->EmptyNum != -1 && rules_->EmptyNum != RankOf(kind)) return false;
-        return !rules_->FillFromStock || from == StockPile || from == WastePile;
-    }
-    if (IsHome(from) && (from == to || rules_->NoH2H)) return false;
-    if (rules_->HomeMax != 0 && count >= rules_->HomeMax) return false;
-    return Has(rules_->HomeFits[Index(TopKind(to))], kind);
-}
-
 bool Position::ResAccepts(int to, int count) const { return rules_->FreeCells && count == 1 && IsEmpty(to); }
 
-bool Position::GoalAccepts(int kind, int to) const {
-    if (rules_->RunsLeave) return false;
-    if (IsEmpty(to)) return RankOf(kind) == rules_->Base;
-    if (Count(to) == RankCount) return false;
-    return Has(rules_->GoalFits[Index(rules_->GoalHalf(to - FirstGoal))][Index(TopKind(to))], kind);
+bool Position::GoalAccepts(int kind, int to) const { return Has(taken_[Index(to - FirstGoal)], kind); }
+
+// After a change of a foundation pile: what it takes now.
+void Position::NoteGoal(int pile) {
+    const int goal = pile - FirstGoal;
+    KindSet takes = 0;
+    if (!rules_->RunsLeave && goal < rules_->GoalPiles) {
+        if (IsEmpty(pile)) {
+            takes = rules_->BaseKinds;
+        } else if (Count(pile) != RankCount) {
+            takes = rules_->GoalFits[Index(rules_->GoalHalf(goal))][Index(TopKind(pile))];
+        }
+    }
+    taken_[Index(goal)] = takes;
+    goalTakes_ = 0;
+    for (const KindSet set : taken_) goalTakes_ |= set;
+}
+
+// A card has become the top of its pile, or has ceased to be it.
+void Position::NoteTop(int pile, const Entry& entry) {
+    const KindSet kind = Only(KindOf(entry.Card));
+    const std::size_t pack = (entry.Card & SecondDeck) != 0 ? 1 : 0;
+    if (IsHome(pile)) {
+        homeTops_[pack] ^= kind;
+        if (entry.Settled) settledTake_ ^= rules_->HomeFits[Index(KindOf(entry.Card))];
+    } else if (IsRes(pile)) {
+        resTops_[pack] ^= kind;
+    }
+}
+
+// Whether a card there stays until it goes to a foundation, or goes with all that lies on it.
+bool Position::IsSettled(int kind, const Entry& below, bool bottom) const {
+    if (rules_->MultiMove) return true;
+    if (bottom) return rules_->HomeUnder[Index(kind)] == 0;
+    const bool fillsEmpty =
+        !rules_->FillFromStock && (rules_->EmptyNum == -1 || rules_->EmptyNum == RankOf(kind));
+    return !fillsEmpty && Has(rules_->HomeFits[Index(KindOf(below.Card))], kind);
 }
 
 // What is known of a pile is known up to each card, so that a card that leaves takes its part along.
@@ -99,8 +134,10 @@ void Position::Push(int pile, Card card) {
     const bool bottom = counts_[Index(pile)] == 0;
     Entry& entry = entries[++counts_[Index(pile)]];
     const int kind = KindOf(card);
+    if (!bottom) NoteTop(pile, below);
     entry.Card = card;
     entry.Hash = Mixed(below.Hash + rules_->Key[card]);
+    if (bottom && IsHome(pile)) ++usedHome_;
     if (IsHome(pile)) {
         const std::uint8_t steps = weights_->Steps[Index(kind)];
         int worth = below.Worth;
@@ -124,16 +161,41 @@ void Position::Push(int pile, Card card) {
                 if ((below.Card & Closed) == 0) worth += weights_->Leaving + weights_->Longer * below.Leaving;
             }
         }
+        entry.Settled = IsSettled(kind, below, bottom);
         entry.Worth = static_cast<std::int16_t>(worth);
+        worth_ += worth - below.Worth;
+    } else if (IsRes(pile)) {
+        ++cardsRes_;
+        if (bottom) ++usedRes_;
     } else if (IsGoal(pile)) {
         ++cardsHome_;
         if (++homeCopies_[Index(kind)] == rules_->Copies[Index(kind)]) allHome_ |= Only(kind);
+        NoteGoal(pile);
+    }
+    NoteTop(pile, entry);
+    sum_ += factors_[Index(pile)] * (entry.Hash - below.Hash);
+}
+
+void Position::CutTo(int pile, int count) {
+    const Entry& top = Top(pile);
+    NoteTop(pile, top);
+    if (count > 0) NoteTop(pile, At(pile, count - 1));
+    counts_[Index(pile)] = static_cast<std::uint8_t>(count);
+    sum_ -= factors_[Index(pile)] * (top.Hash - Top(pile).Hash);
+    if (IsHome(pile)) {
+        worth_ -= top.Worth - Top(pile).Worth;
+        if (count == 0) --usedHome_;
+    } else if (IsRes(pile)) {
+        --cardsRes_;
+        if (count == 0) --usedRes_;
     }
 }
 
 Card Position::Pop(int pile) {
-    const Card card = piles_[Index(pile)][counts_[Index(pile)]--].Card;
+    const Card card = Top(pile).Card;
+    CutTo(pile, Count(pile) - 1);
     if (IsGoal(pile)) {
+        NoteGoal(pile);
         --cardsHome_;
         --homeCopies_[Index(KindOf(card))];
         allHome_ &= ~Only(KindOf(card));
@@ -159,7 +221,7 @@ void Position::Carry(int from, int to, int count) {
         for (int place = first; place < first + count; ++place) {
             Push(to, static_cast<Card>(At(from, place).Card & ~Closed));
         }
-        counts_[Index(from)] = static_cast<std::uint8_t>(first);
+        CutTo(from, first);
     }
     if (IsHome(from)) OpenTop(from);
 }
@@ -221,7 +283,7 @@ void Position::TakeBack(std::size_t mark) {
                     for (int place = first; place < first + change.Count; ++place) {
                         Push(change.From, At(change.To, place).Card);
                     }
-                    counts_[change.To] = static_cast<std::uint8_t>(first);
+                    CutTo(change.To, first);
                 }
                 break;
             }
@@ -361,32 +423,15 @@ void Position::RefillPass() {
     }
 }
 
-int Position::PilesWorth() const {
-    int worth = 0;
-    for (int pile = 0; pile < rules_->HomePiles; ++pile) worth += Top(pile).Worth;
-    return worth;
-}
-
 // Sums over piles that are alike, so that their order plays no part. Tableau piles are alike until cards are
 // dealt onto them in their order, or gathered from them; foundation piles where they build by one rule.
 std::uint64_t Position::Hash() const {
-    constexpr std::uint64_t OfRes = 0x9E3779B97F4A7C15U;
-    constexpr std::uint64_t OfGoal = 0xC2B2AE3D27D4EB4FU;
-    constexpr std::uint64_t OfUpperGoal = 0x165667B19E3779F9U;
-    std::uint64_t hash = 0;
     // With Autoplay the first pile that fits is served first, in every group.
-    const bool ordered = rules_->Autoplay || DealsOntoPiles();
-    for (int pile = 0; pile < rules_->HomePiles; ++pile) {
-        hash += ordered ? Mixed(Top(pile).Hash + Index(pile)) : Top(pile).Hash;
-    }
-    for (int pile = FirstRes; pile < FirstRes + rules_->ResPiles; ++pile) {
-        hash += OfRes * (rules_->Autoplay ? Mixed(Top(pile).Hash + Index(pile)) : Top(pile).Hash);
-    }
-    const int goals = rules_->RunsLeave ? StockPile - FirstGoal : rules_->GoalPiles;
-    for (int goal = 0; goal < goals; ++goal) {
-        const std::uint64_t pile = Top(FirstGoal + goal).Hash;
-        const std::uint64_t factor = rules_->GoalHalf(goal) == 0 ? OfGoal : OfUpperGoal;
-        hash += factor * (rules_->Autoplay ? Mixed(pile + Index(goal)) : pile);
+    const int ordered = rules_->Autoplay ? StockPile : DealsOntoPiles() ? FirstRes : 0;
+    std::uint64_t hash = sum_;
+    for (int pile = 0; pile < ordered; ++pile) {
+        const std::uint64_t top = Top(pile).Hash;
+        hash += factors_[Index(pile)] * (Mixed(top + Index(pile)) - top);
     }
     return Mixed(hash + TalonHash());
 }

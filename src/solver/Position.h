@@ -39,6 +39,7 @@ public:
         std::uint8_t Low = 0xff;   ///< the fewest steps from the foundations' base
         std::uint8_t Lifted = 0;   ///< cards down from here that obey the rule of a lifted run
         std::uint8_t Leaving = 0;  ///< cards down from here that obey the rule of a leaving run
+        bool Settled = false;      ///< can leave for a foundation only, or with all that lies on it
     };
 
     /// The rules and the weights must outlive the position.
@@ -61,7 +62,15 @@ public:
     [[nodiscard]] const Entry& Top(int pile) const { return piles_[Index(pile)][counts_[Index(pile)]]; }
     /// The kind of the top card of a pile that is not empty.
     [[nodiscard]] int TopKind(int pile) const { return KindOf(Top(pile).Card); }
-    [[nodiscard]] int CountEmpty(int first, int piles) const;
+    [[nodiscard]] int EmptyHome() const { return rules_->HomePiles - usedHome_; }
+    [[nodiscard]] int EmptyRes() const { return rules_->ResPiles - usedRes_; }
+    [[nodiscard]] int CardsInRes() const { return cardsRes_; }
+    /// The kinds that lie on top in the tableau.
+    [[nodiscard]] KindSet HomeTops() const { return homeTops_[0] | homeTops_[1]; }
+    /// The same of the reserve.
+    [[nodiscard]] KindSet ResTops() const { return resTops_[0] | resTops_[1]; }
+    /// The kinds that may be laid on settled cards; of use only where no two cards take the same.
+    [[nodiscard]] KindSet SettledTake() const { return settledTake_; }
     [[nodiscard]] int CardsHome() const { return cardsHome_; }
     [[nodiscard]] bool Won() const { return cardsHome_ == rules_->CardsToWin; }
     [[nodiscard]] int RedealsMade() const { return redeals_; }
@@ -73,6 +82,8 @@ public:
     /// Whether a press of the stock deals onto the piles, or a redeal gathers them: then the piles' order
     /// counts.
     [[nodiscard]] bool DealsOntoPiles() const;
+    /// The kinds that a foundation pile takes.
+    [[nodiscard]] KindSet GoalTakes() const { return goalTakes_; }
     /// The kinds of which all cards lie on foundations.
     [[nodiscard]] KindSet AllHome() const { return allHome_; }
 
@@ -84,7 +95,17 @@ public:
     [[nodiscard]] bool IsLiftable(int pile, int count) const {
         return count == 1 || (At(pile, Count(pile) - count).Card & Closed) == 0;
     }
-    [[nodiscard]] bool HomeAccepts(int kind, int from, int to) const;
+    [[nodiscard]] bool EmptyHomeAccepts(int kind, int from) const {
+        if (rules_->EmptyNum != -1 && rules_->EmptyNum != RankOf(kind)) return false;
+        return !rules_->FillFromStock || from == StockPile || from == WastePile;
+    }
+    [[nodiscard]] bool HomeAccepts(int kind, int from, int to) const {
+        const int count = Count(to);
+        if (count == 0) return EmptyHomeAccepts(kind, from);
+        if (!Has(rules_->HomeFits[Index(TopKind(to))], kind)) return false;
+        if (IsHome(from) && (from == to || rules_->NoH2H)) return false;
+        return rules_->HomeMax == 0 || count < rules_->HomeMax;
+    }
     [[nodiscard]] bool ResAccepts(int to, int count) const;
     [[nodiscard]] bool GoalAccepts(int kind, int to) const;
 
@@ -99,7 +120,7 @@ public:
     /// must be expected once in 2^64 pairs.
     [[nodiscard]] std::uint64_t Hash() const;
     /// The sum of the piles' worths.
-    [[nodiscard]] int PilesWorth() const;
+    [[nodiscard]] int PilesWorth() const { return worth_; }
 
     /// Receives the moves made, as the player would make them, where it is set.
     std::vector<Move>* Trace = nullptr;
@@ -117,6 +138,10 @@ private:
     [[nodiscard]] static constexpr std::size_t Index(int number) { return static_cast<std::size_t>(number); }
 
     void Push(int pile, Card card);
+    void CutTo(int pile, int count);
+    void NoteGoal(int pile);
+    void NoteTop(int pile, const Entry& entry);
+    [[nodiscard]] bool IsSettled(int kind, const Entry& below, bool bottom) const;
     Card Pop(int pile);
     void Note(Change::Kind what, int from, int to, int count);
     void Carry(int from, int to, int count);
@@ -140,9 +165,18 @@ private:
     const Weights* weights_;
     std::array<std::array<Entry, Capacity>, PileCount> piles_{};
     std::array<std::uint8_t, PileCount> counts_{};
+    std::uint64_t sum_ = 0;  ///< of the hashes of all piles but stock and waste, each times its factor
+    int worth_ = 0;
+    std::array<std::uint64_t, PileCount> factors_{};
     std::array<std::uint8_t, Kinds> homeCopies_{};
     KindSet allHome_ = 0;
+    std::array<KindSet, StockPile - FirstGoal> taken_{};  ///< by foundation pile
+    KindSet goalTakes_ = 0;
+    std::array<KindSet, 2> homeTops_{}, resTops_{};  ///< by pack: so no two cards of a set are alike
+    KindSet settledTake_ = 0;
     int cardsHome_ = 0;
+    int usedHome_ = 0, usedRes_ = 0;  ///< piles with cards
+    int cardsRes_ = 0;
     int redeals_ = 0;
     int pileDeals_ = 0;
     std::vector<Change> undo_;

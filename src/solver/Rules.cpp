@@ -87,8 +87,11 @@ Rules::Rules(const cGames& game, Switches switches)
     for (std::size_t a = 0; a < Kinds; ++a) {
         for (std::size_t b = 0; b < Kinds; ++b) {
             if ((leaving[a] >> b & 1) != 0) RunFits[b] |= KindSet{1} << a;
+            if ((HomeFits[a] >> b & 1) != 0) HomeUnder[b] |= KindSet{1} << a;
         }
     }
+
+    SetBase(Base, EmptyNum);
 
     // Two kinds of one rank that every rule treats alike can change places in any position without a change
     // of what can be done there: ranks decide what an empty pile takes, and the tables all the rest. Only
@@ -117,6 +120,10 @@ Rules::Rules(const cGames& game, Switches switches)
 void Rules::SetBase(int base, int emptyNum) {
     Base = base;
     EmptyNum = emptyNum;
+    BaseKinds = 0;
+    for (int kind = 0; kind < Kinds; ++kind) {
+        if (RankOf(kind) == base) BaseKinds |= Only(kind);
+    }
 }
 
 }  // namespace Solver

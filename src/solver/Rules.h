@@ -57,11 +57,14 @@ struct Rules {
     int HomePiles, ResPiles, GoalPiles;
     int TotalCards, CardsToWin;
     int Base = Ace;
-    int EmptyNum = -1;  ///< -1 any rank, -10 none
+    int EmptyNum = -1;      ///< -1 any rank, -10 none
+    KindSet BaseKinds = 0;  ///< of the rank that the foundations start from
 
     // By kind A: the kinds that may lie on it in the tableau, inside a lifted run, on a foundation (of the
     // lower and of the upper half of the piles), and next to it in a run that leaves by itself.
     std::array<KindSet, Kinds> HomeFits{}, LiftFits{}, RunFits{};
+    /// By kind: the kinds that it may lie on in the tableau.
+    std::array<KindSet, Kinds> HomeUnder{};
     std::array<std::array<KindSet, Kinds>, 2> GoalFits{};
     /// By kind: the number of its cards in the pack.
     std::array<std::uint8_t, Kinds> Copies{};

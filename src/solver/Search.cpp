@@ -22,15 +22,21 @@ Result Search::Solve(const mDeal::Opening& opening, const Limits& limits) {
 Result Search::SolvePosition(const Limits& limits) {
     rules_.TalonFree = talonFree_ && !Plain;
     met_.Clear();
-    nodes_.clear();
+    nodes_.Clear();
     path_.clear();
-    for (OpenList& open : open_) open.Clear();
+    for (auto& stage : open_) {
+        for (OpenList& level : stage) level.Clear();
+    }
+    waiting_.assign(waiting_.size(), 0);
+    stage_ = level_ = turn_ = 0;
     won_ = NoNode;
     const std::size_t most = limits.MemoryMB * 1024 * 1024 / BytesPerState;
-    const std::size_t limit = limits.States == 0 ? most : std::min(most, limits.States);
+    const std::size_t limit = limits.States == 0 ? most : limits.States;
 
     Result result;
-    nodes_.push_back({NoNode, {}, 0, true});
+    Node root;
+    root.Inner = true;
+    nodes_.Add(root);
     path_.push_back({0, position_.Mark()});
     std::vector<Move> first;
     position_.Trace = &first;
@@ -47,13 +53,13 @@ Result Search::SolvePosition(const Limits& limits) {
     while (won_ == NoNode) {
         // Each stage in its turn: positions of different stages look too different to be compared.
         std::size_t tried = 0;
-        while (tried < open_.size() && open_[stage_ = (stage_ + 1) % open_.size()].IsEmpty()) ++tried;
+        while (tried < open_.size() && waiting_[stage_ = (stage_ + 1) % open_.size()] == 0) ++tried;
         if (tried == open_.size()) break;
-        if (met_.Count() >= limit) {
+        if (met_.Count() >= limit || nodes_.Count() >= most) {
             result.Answer = Answer::Unknown;
             break;
         }
-        const std::uint32_t node = open_[stage_].Pop();
+        const std::uint32_t node = Next();
         GoTo(node);
         Expand(node);
     }
@@ -100,15 +106,46 @@ void Search::GoTo(std::uint32_t node) {
 }
 
 std::uint32_t Search::AddNode(std::uint32_t before, const Move& move, bool inner) {
-    const auto number = static_cast<std::uint32_t>(nodes_.size());
-    nodes_.push_back({before, move, static_cast<std::uint16_t>(nodes_[before].Depth + 1), inner});
-    return number;
+    return nodes_.Add({.Before = before,
+                       .Made = move,
+                       .Depth = static_cast<std::uint16_t>(nodes_[before].Depth + 1),
+                       .Inner = inner});
 }
 
-void Search::Enqueue(std::uint32_t node) {
-    const auto stage = static_cast<std::size_t>(Stage());
-    if (stage >= open_.size()) open_.resize(stage + 1);
-    open_[stage].Push(Worth() + weights_.Depth * nodes_[node].Depth, node);
+void Search::Enqueue(const Child& child, std::uint32_t node) {
+    const auto stage = static_cast<std::size_t>(child.Stage);
+    const auto level = static_cast<std::size_t>(child.Level);
+    if (stage >= open_.size()) {
+        open_.resize(stage + 1);
+        waiting_.resize(stage + 1);
+    }
+    if (level >= open_[stage].size()) open_[stage].resize(level + 1);
+    open_[stage][level].Push(child.Worth + weights_.Depth * nodes_[node].Depth, node, nodes_);
+    ++waiting_[stage];
+}
+
+// By turns the best of all, and the best of those that have so many cards home, for each number of cards:
+// what looks best may be a blind alley that is long to search, and others get their turn.
+std::uint32_t Search::Next() {
+    auto& levels = open_[stage_];
+    --waiting_[stage_];
+    ++turn_;
+    if (met_.Count() >= StraightStates && turn_ / Turn % 2 == 1) {
+        if (turn_ % Turn == 0) ++level_;
+        if (level_ >= levels.size()) level_ = 0;
+        while (levels[level_].IsEmpty()) level_ = (level_ + 1) % levels.size();
+        return levels[level_].Pop(nodes_);
+    }
+    std::size_t best = levels.size();
+    int most = 0;
+    for (std::size_t level = levels.size(); level-- > 0;) {
+        if (levels[level].IsEmpty()) continue;
+        const int worth = levels[level].Best() + weights_.Home * static_cast<int>(level);
+        if (best < levels.size() && worth <= most) continue;
+        best = level;
+        most = worth;
+    }
+    return levels[best].Pop(nodes_);
 }
 
 bool Search::Expand(std::uint32_t node) {
@@ -118,23 +155,28 @@ bool Search::Expand(std::uint32_t node) {
     } else {
         UsefulMoves(position_, dominance_, list_);
     }
+    // All children first, so that their places in the table are near when they are asked for.
+    children_.clear();
     const std::size_t mark = position_.Mark();
     for (std::size_t chain = 0; chain < list_.Count(); ++chain) {
         for (const Move* move = list_.Begin(chain); move != list_.End(chain); ++move) position_.Make(*move);
         PlaySafeCards();
-        if (met_.Insert(position_.Hash())) {
-            std::uint32_t last = node;
-            for (const Move* move = list_.Begin(chain); move != list_.End(chain); ++move) {
-                last = AddNode(last, *move, move + 1 != list_.End(chain));
-            }
-            if (position_.Won()) {
-                won_ = last;
-                position_.TakeBack(mark);
-                return true;
-            }
-            Enqueue(last);
-        }
+        children_.push_back({position_.Hash(), Worth(), Stage(), position_.CardsHome(), position_.Won()});
+        met_.Prefetch(children_.back().Hash);
         position_.TakeBack(mark);
+    }
+    for (std::size_t chain = 0; chain < list_.Count(); ++chain) {
+        const Child& child = children_[chain];
+        if (!met_.Insert(child.Hash)) continue;
+        std::uint32_t last = node;
+        for (const Move* move = list_.Begin(chain); move != list_.End(chain); ++move) {
+            last = AddNode(last, *move, move + 1 != list_.End(chain));
+        }
+        if (child.Won) {
+            won_ = last;
+            return true;
+        }
+        Enqueue(child, last);
     }
     return false;
 }
@@ -146,16 +188,14 @@ int Search::Stage() const {
     return onto ? (position_.Count(StockPile) + rules_.HomePiles - 1) / rules_.HomePiles : 0;
 }
 
+// Without the cards at home: they are the level.
 int Search::Worth() const {
-    int worth = position_.PilesWorth() + weights_.Home * position_.CardsHome() +
-                weights_.EmptyPile * position_.CountEmpty(FirstHome, rules_.HomePiles) +
+    int worth = position_.PilesWorth() + weights_.EmptyPile * position_.EmptyHome() +
                 weights_.Talon * (position_.Count(StockPile) + position_.Count(WastePile));
     if (rules_.FreeCells) {
-        worth += weights_.EmptyCell * position_.CountEmpty(FirstRes, rules_.ResPiles);
+        worth += weights_.EmptyCell * position_.EmptyRes();
     } else {
-        for (int pile = FirstRes; pile < FirstRes + rules_.ResPiles; ++pile) {
-            worth += weights_.Reserve * position_.Count(pile);
-        }
+        worth += weights_.Reserve * position_.CardsInRes();
     }
     return worth;
 }

@@ -8,6 +8,7 @@
 
 #include "solver/Dominance.h"
 #include "solver/HashTable.h"
+#include "solver/NodeStore.h"
 #include "solver/OpenList.h"
 #include "solver/Position.h"
 #include "solver/Rules.h"
@@ -35,9 +36,9 @@ struct Result {
 
 class Search {
 public:
-    /// What a state takes at most: 12 of its node, up to as much again while the nodes' vector grows, up to
-    /// 22 of its slot in the table (and half of that while it grows), up to 8 in the open list.
-    static constexpr std::size_t BytesPerState = 64;
+    /// What a state takes at most: 16 of its node, up to 22 of its slot in the table and 11 of the table
+    /// before that grew. Besides come the open lists, some megabytes however many states there are.
+    static constexpr std::size_t BytesPerState = 56;
 
     Search(const cGames& game, Switches switches);
 
@@ -53,13 +54,11 @@ public:
     bool Plain = false;
 
 private:
-    static constexpr std::uint32_t NoNode = 0xffffffff;
-    struct Node {
-        std::uint32_t Before;
-        Move Made;
-        std::uint16_t Depth;
-        bool Inner;  ///< inside a chain of moves: nothing safe is played after it
-    };
+    /// So many states go by the best position alone: enough for most deals that are easy to win.
+    static constexpr std::size_t StraightStates = 2000;
+    /// So many positions at a time are taken in one way of choosing: then they lie near to each other.
+    static constexpr std::size_t Turn = 8;
+
     struct Step {
         std::uint32_t Number;
         std::size_t Mark;  ///< of the position before the step
@@ -70,7 +69,16 @@ private:
     void GoTo(std::uint32_t node);
     bool Expand(std::uint32_t node);
     std::uint32_t AddNode(std::uint32_t before, const Move& move, bool inner);
-    void Enqueue(std::uint32_t node);
+    /// A child of the position that is being looked into.
+    struct Child {
+        std::uint64_t Hash;
+        int Worth;
+        int Stage;
+        int Level;
+        bool Won;
+    };
+    void Enqueue(const Child& child, std::uint32_t node);
+    [[nodiscard]] std::uint32_t Next();
     [[nodiscard]] int Stage() const;
     [[nodiscard]] int Worth() const;
     [[nodiscard]] std::vector<Move> MovesTo(std::uint32_t node);
@@ -81,11 +89,15 @@ private:
     Position position_;
     Dominance dominance_;
     HashTable met_;
-    std::vector<Node> nodes_;
+    NodeStore nodes_;
     std::vector<Step> path_;
-    std::vector<OpenList> open_;
+    std::vector<Child> children_;
+    std::vector<std::vector<OpenList>> open_;  ///< by stage and cards home
+    std::vector<std::size_t> waiting_;         ///< by stage
     std::uint32_t won_ = NoNode;
     std::size_t stage_ = 0;
+    std::size_t level_ = 0;
+    std::size_t turn_ = 0;
     MoveList list_;
 };
 

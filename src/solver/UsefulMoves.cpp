@@ -15,11 +15,19 @@ Move Play(int from, int to, int count = 1) {
             static_cast<std::uint8_t>(count)};
 }
 
+/// What a look at the tableau's tops tells of all moves onto it.
+struct Tops {
+    explicit Tops(const Position& position) : Kinds(position.HomeTops()), Empty(position.EmptyHome() > 0) {}
+    KindSet Kinds;
+    bool Empty;
+};
+
 /// Calls `visit` for the piles that a card may go to, one of each set of piles that are alike.
 template <typename Visit>
-void ForTargets(const Position& position, int kind, int from, int count, bool ordered, Visit visit) {
+void ForTargets(const Position& position, const Tops& tops, int kind, int from, int count, bool ordered,
+                Visit visit) {
     const Rules& rules = position.Game();
-    if (count == 1 && !rules.RunsLeave) {
+    if (count == 1 && Has(position.GoalTakes(), kind)) {
         for (int to = FirstGoal; to < FirstGoal + rules.GoalPiles; ++to) {
             if (!position.GoalAccepts(kind, to)) continue;
             bool seen = false;
@@ -30,6 +38,19 @@ void ForTargets(const Position& position, int kind, int from, int count, bool or
             if (!seen) visit(to);
         }
     }
+    const auto toCells = [&] {
+        if (count != 1 || !rules.FreeCells || IsRes(from)) return;
+        for (int to = FirstRes; to < FirstRes + rules.ResPiles; ++to) {
+            if (!position.ResAccepts(to, count)) continue;
+            visit(to);
+            if (!rules.Autoplay) return;
+        }
+    };
+    const bool intoEmpty = tops.Empty && position.EmptyHomeAccepts(kind, from);
+    if ((rules.HomeUnder[static_cast<std::size_t>(kind)] & tops.Kinds) == 0 && !intoEmpty) {
+        toCells();
+        return;
+    }
     bool emptySeen = IsHome(from) && count == position.Count(from) && !ordered;  // a whole pile gains nothing
     for (int to = FirstHome; to < FirstHome + rules.HomePiles; ++to) {
         if (to == from) continue;
@@ -39,40 +60,36 @@ void ForTargets(const Position& position, int kind, int from, int count, bool or
         }
         if (position.HomeAccepts(kind, from, to)) visit(to);
     }
-    if (count != 1 || !rules.FreeCells || IsRes(from)) return;
-    for (int to = FirstRes; to < FirstRes + rules.ResPiles; ++to) {
-        if (!position.ResAccepts(to, count)) continue;
-        visit(to);
-        if (!rules.Autoplay) return;
-    }
+    toCells();
 }
 
-void AddFrom(const Position& position, int from, int count, bool ordered, MoveList& list) {
+void AddFrom(const Position& position, const Tops& tops, int from, int count, bool ordered, MoveList& list) {
     const int kind = KindOf(position.At(from, position.Count(from) - count).Card);
-    ForTargets(position, kind, from, count, ordered, [&](int to) { list.Add(Play(from, to, count)); });
+    ForTargets(position, tops, kind, from, count, ordered, [&](int to) { list.Add(Play(from, to, count)); });
 }
 
 }  // namespace
 
 void UsefulMoves(Position& position, const Dominance& dominance, MoveList& list) {
     const Rules& rules = position.Game();
+    const Tops tops(position);
     // Where piles are served in their order, which pile is which counts.
     const bool ordered = rules.Autoplay || position.DealsOntoPiles();
     for (int from = FirstHome; from < FirstHome + rules.HomePiles; ++from) {
         const int most = position.LiftableCards(from);
         for (int count = 1; count <= most; ++count) {
-            if (position.IsLiftable(from, count)) AddFrom(position, from, count, ordered, list);
+            if (position.IsLiftable(from, count)) AddFrom(position, tops, from, count, ordered, list);
         }
     }
     for (int from = FirstRes; from < FirstRes + rules.ResPiles; ++from) {
-        if (!position.IsEmpty(from)) AddFrom(position, from, 1, ordered, list);
+        if (!position.IsEmpty(from)) AddFrom(position, tops, from, 1, ordered, list);
     }
     const bool chained = dominance.ReturnsAreChained(position) && dominance.AddReturns(position, list);
     if (rules.Returns && !chained) {
         for (int from = FirstGoal; from < StockPile; ++from) {
             if (position.IsEmpty(from)) continue;
             const int kind = position.TopKind(from);
-            ForTargets(position, kind, from, 1, ordered, [&](int to) {
+            ForTargets(position, tops, kind, from, 1, ordered, [&](int to) {
                 if (!IsGoal(to) || dominance.GoalsExchange()) list.Add(Play(from, to));
             });
         }
@@ -81,10 +98,10 @@ void UsefulMoves(Position& position, const Dominance& dominance, MoveList& list)
         AddTalonPlays(position, NoChain, list);
         return;
     }
-    if (!position.IsEmpty(WastePile)) AddFrom(position, WastePile, 1, ordered, list);
+    if (!position.IsEmpty(WastePile)) AddFrom(position, tops, WastePile, 1, ordered, list);
     if (!position.IsEmpty(StockPile)) {
         if (rules.OpenStock) {
-            AddFrom(position, StockPile, 1, ordered, list);
+            AddFrom(position, tops, StockPile, 1, ordered, list);
         } else {
             list.Add({.What = Move::Kind::Press});
         }
@@ -97,6 +114,7 @@ void UsefulMoves(Position& position, const Dominance& dominance, MoveList& list)
 // between them.
 void AddTalonPlays(const Position& position, const std::vector<Move>& chain, MoveList& list, int only) {
     const Rules& rules = position.Game();
+    const Tops tops(position);
     const int waste = position.Count(WastePile);
     const int cards = waste + position.Count(StockPile);
     const int step = rules.Press == StockMove::ThreeToWaste ? 3 : 1;
@@ -125,7 +143,7 @@ void AddTalonPlays(const Position& position, const std::vector<Move>& chain, Mov
             };
             const int kind = kindAt(cut);
             if (only < 0) {
-                ForTargets(position, kind, WastePile, 1, false, add);
+                ForTargets(position, tops, kind, WastePile, 1, false, add);
             } else if (position.HomeAccepts(kind, WastePile, only)) {
                 add(only);
             }

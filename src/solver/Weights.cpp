@@ -6,15 +6,24 @@
 namespace Solver {
 
 Weights::Weights(const Rules& rules) {
+    if (rules.TotalCards > DeckCards) {
+        Lifted = 8;
+        Closed = -40;
+        EmptyPile = 24;
+        EmptyCell = 32;
+        Bottom = 32;
+    }
     // A run that leaves takes the worth of its pairs along: its cards must be worth more at home.
     if (rules.RunsLeave) {
-        Home = 50;
-        Covering = -12;
+        Home = 60;
+        Covering = -14;
         Pair = 0;
         Lifted = 0;
         Leaving = 30;
         Longer = 1;
-        EmptyPile = 60;
+        EmptyPile = rules.TotalCards > DeckCards ? 60 : 4;
+        EmptyCell = 24;
+        Depth = -3;
     }
 }
 
