@@ -19,6 +19,7 @@ table() {
 export QT_LOGGING_RULES='*=false'
 table "the engine" "$folder/tarnival-bench"
 table "the engine, counted in instructions" bench/instructions.sh "$folder/tarnival-engine-work"
+table "the solver" "$folder/tarnival-solver-bench"
 table "records" "$folder/tarnival-records-bench"
 table "the dialogs of the records" xvfb-run -a -s "-screen 0 1280x900x24" "$folder/tarnival-dialogs-bench"
 table "the look" xvfb-run -a -s "-screen 0 1280x900x24" "$folder/tarnival-look-bench"
