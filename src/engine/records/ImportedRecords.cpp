@@ -142,7 +142,7 @@ bool ImportedRecords::Read(const std::string& path) {
 
 FileError ImportedRecords::ReadFile(const std::string& path) {
     std::string content;
-    if (const FileError fault = gData->Layer().Files.Read(path, content)) return fault;
+    if (FileError fault = gData->Layer().Files.Read(path, content)) return fault;
     std::string_view text = content;
     if (text.substr(0, Mark.size()) == Mark) text.remove_prefix(Mark.size());
     bool isCsv = false;

@@ -17,7 +17,6 @@ namespace {
 
 using mCareerTables::Cell;
 using mCareerTables::Heading;
-using mCareerTables::Table;
 using mDates::DayRange;
 using mDates::Interval;
 using Count = Career::Count;
@@ -42,7 +41,7 @@ const Career::Figures& GameFigures(const Career::Result& result, int SiD) {
     return result.Games.at(static_cast<std::size_t>(SiD - 1));
 }
 
-Cell Same(std::string text) { return {text, text}; }
+Cell Same(const std::string& text) { return {text, text}; }
 Cell Counted(std::int64_t value) { return Same(std::to_string(value)); }
 Cell Share(const Count& count) {
     if (count.Played == 0) return {};
