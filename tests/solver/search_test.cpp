@@ -151,6 +151,25 @@ TEST(SolverSearch, LosesNoAnswerByWhatItLeavesOut) {
     EXPECT_GT(lost, 20);
 }
 
+// The Five fits on the Six, and would shut in the Four under it: first the Six has to leave for the Seven,
+// and that for the Eight.
+TEST(SolverSearch, LaysNoCardWhereItShutsAnotherIn) {
+    Search search(Named("Fan"), {});
+    search.Game().SetBase(Ace, King);
+    Solver::Position& table = search.Table();
+    table.Clear();
+    for (int suit = 0; suit < SuitCount; ++suit) {
+        for (int rank = Ace; rank <= (suit == 0 ? 2 : King); ++rank) {
+            table.Put(Solver::FirstGoal + suit, static_cast<Solver::Card>(suit * RankCount + rank));
+        }
+    }
+    const std::vector<std::vector<int>> piles{{4}, {3, 5}, {6}, {12, 11, 10, 9, 8, 7}};
+    for (std::size_t pile = 0; pile < piles.size(); ++pile) {
+        for (const int rank : piles[pile]) table.Put(static_cast<int>(pile), static_cast<Solver::Card>(rank));
+    }
+    EXPECT_EQ(search.SolvePosition({.States = 100}).Answer, Answer::Won);
+}
+
 TEST(SolverSearch, WinsNoLessUnderLooserRules) {
     struct Pair {
         std::string Strict, Loose;
