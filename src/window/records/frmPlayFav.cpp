@@ -1,9 +1,11 @@
 // The dialog "Play from Favorites".
 #include "window/records/frmPlayFav.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QStyle>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -74,6 +76,9 @@ void frmPlayFav::MarkGames() {
         cmGames->setItemData(i, NotedDelegate::Spoken(cmGames->itemText(i), note), Qt::AccessibleTextRole);
         cmGames->setItemIcon(i, ilsIcons::Favorite());
     }
+    // The open list has room for the notes, which the box itself does not show.
+    cmGames->view()->setMinimumWidth(cmGames->view()->sizeHintForColumn(0) +
+                                     style()->pixelMetric(QStyle::PM_ScrollBarExtent));
 }
 
 void frmPlayFav::UpdateLVFav() {
