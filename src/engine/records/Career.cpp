@@ -12,12 +12,10 @@ namespace {
 using Entry = ScoreStore::Entry;
 using Figures = Career::Figures;
 
-constexpr int SecondsInHour = 3600;
-
 /// Seconds of the wall's calendar; for an entry without a readable date those of the game before it.
 std::int64_t TimeOf(const Entry& entry, std::int64_t before) {
-    constexpr std::int64_t SecondsInDay = 86400;
-    return entry.Day == ScoreStore::NoDay ? before : entry.Day * SecondsInDay + entry.Second;
+    return entry.Day == ScoreStore::NoDay ? before
+                                          : entry.Day * std::int64_t{mDates::SecondsInDay} + entry.Second;
 }
 
 /// Figures that grow game by game, in the order in which each player played them.
@@ -163,7 +161,7 @@ Career::Result Career::Work(const CareerFilter& filter) const {
             dayNumber = entry.Day;
             day = &result.Days[dayNumber];
         }
-        for (Count* count : {day, &result.Hours[entry.Second / SecondsInHour]}) {
+        for (Count* count : {day, &result.Hours[entry.Second / mDates::SecondsInHour]}) {
             ++count->Played;
             count->Won += entry.Won == 1;
         }

@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr int SecondsInMinute = 60;
-constexpr int SecondsInHour = 3600;
+using mDates::SecondsInHour;
+using mDates::SecondsInMinute;
 
 int Saturated32(std::int64_t value) {
     using Limits = std::numeric_limits<std::int32_t>;

@@ -19,10 +19,9 @@ using mCareerTables::Cell;
 using mCareerTables::Heading;
 using mDates::DayRange;
 using mDates::Interval;
+using mDates::MonthsInYear;
 using Count = Career::Count;
 using Row = std::vector<Cell>;
-
-constexpr int MonthsInYear = 12;
 
 DayRange Backward(int count, Interval unit) {
     const CivilTime now = mDates::Now();

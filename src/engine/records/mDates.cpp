@@ -12,7 +12,6 @@ namespace {
 
 namespace chrono = std::chrono;
 
-constexpr int MonthsInYear = 12;
 constexpr int FirstYear = 1;
 constexpr int LastYear = 9999;
 

@@ -18,6 +18,11 @@ struct CivilTime {
 
 namespace mDates {
 
+inline constexpr int MonthsInYear = 12;
+inline constexpr int SecondsInMinute = 60;
+inline constexpr int SecondsInHour = 3600;
+inline constexpr int SecondsInDay = 86400;
+
 /// The unit in which two dates are compared or a date is moved.
 enum class Interval { Day, Month, Year };
 /// "d", "m" or "yyyy"; anything else throws std::out_of_range.

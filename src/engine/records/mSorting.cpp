@@ -34,7 +34,7 @@ double Seconds(std::string_view text) {
     return parts == 3 && text.empty() ? seconds : mSorting::None;
 }
 
-struct Row {
+struct KeyedRow {
     std::uint64_t Key;
     int Place;
 };
@@ -49,23 +49,23 @@ std::uint64_t Ordered(double key, bool descending) {
 
 /// Digit by digit from the last one. Comparing the rows of a million games would take longer than a glance;
 /// and of most columns only a few digits differ.
-void SortByDigits(std::vector<Row>& rows) {
+void SortByDigits(std::vector<KeyedRow>& rows) {
     constexpr std::size_t Bits = 8;
     constexpr std::size_t Values = std::size_t{1} << Bits;
     constexpr std::size_t Digits = 64 / Bits;
-    const auto digit = [](const Row& row, std::size_t place) {
+    const auto digit = [](const KeyedRow& row, std::size_t place) {
         return static_cast<std::size_t>(row.Key >> (place * Bits)) % Values;
     };
     std::array<std::array<std::size_t, Values>, Digits> counts{};
-    for (const Row& row : rows) {
+    for (const KeyedRow& row : rows) {
         for (std::size_t place = 0; place < Digits; ++place) ++counts[place][digit(row, place)];
     }
-    std::vector<Row> sorted(rows.size());
+    std::vector<KeyedRow> sorted(rows.size());
     for (std::size_t place = 0; place < Digits; ++place) {
         auto& next = counts[place];
         if (std::count(next.begin(), next.end(), std::size_t{0}) == Values - 1) continue;  // one for all
         std::exclusive_scan(next.begin(), next.end(), next.begin(), std::size_t{0});
-        for (const Row& row : rows) sorted[next[digit(row, place)]++] = row;
+        for (const KeyedRow& row : rows) sorted[next[digit(row, place)]++] = row;
         rows.swap(sorted);
     }
 }
@@ -94,7 +94,7 @@ double Key(Values values, const std::string& text, const RegionalDates& dates) {
 }
 
 std::vector<int> Order(const std::vector<double>& keys, bool descending) {
-    std::vector<Row> rows;
+    std::vector<KeyedRow> rows;
     rows.reserve(keys.size());
     std::vector<int> last;
     for (std::size_t i = 0; i < keys.size(); ++i) {
@@ -108,7 +108,7 @@ std::vector<int> Order(const std::vector<double>& keys, bool descending) {
     SortByDigits(rows);
     std::vector<int> order;
     order.reserve(keys.size());
-    for (const Row& row : rows) order.push_back(row.Place);
+    for (const KeyedRow& row : rows) order.push_back(row.Place);
     order.insert(order.end(), last.begin(), last.end());
     return order;
 }

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -28,6 +29,9 @@ GameSearch::GameSearch(QWidget* parent)
     cmdFacets_->setToolTip(tr("Kinds of games to search for"));
     cmdFacets_->setPopupMode(QToolButton::InstantPopup);
     cmdFacets_->setFocusPolicy(Qt::StrongFocus);
+    // Many styles draw the sign of a menu into the corner of such a button, and leave no room for it.
+    cmdFacets_->setMinimumWidth(cmdFacets_->sizeHint().width() +
+                                style()->pixelMetric(QStyle::PM_MenuButtonIndicator));
     lblFound_->setObjectName(QStringLiteral("lblFound"));
     auto* label = new QLabel(tr("&Search:"));
     label->setBuddy(txtSearch_);
