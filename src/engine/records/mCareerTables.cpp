@@ -114,14 +114,17 @@ std::vector<Heading> FigureHeadings(const char* first) {
             {"Date", "Best Score Date"}};
 }
 
+/// The length of a streak; nothing where no game was played.
+Cell Longest(int length, const Count& of) { return of.Played == 0 ? Cell{} : Counted(length); }
+
 Row FigureRow(const std::string& name, const Career::Figures& of, const OfRecord& record) {
     return {Same(name),
             Counted(of.Played),
             Counted(of.Won),
             Share(of),
             Streak(of.Streak.Current),
-            Counted(of.Streak.LongestWon),
-            Counted(of.Streak.LongestLost),
+            Longest(of.Streak.LongestWon, of),
+            Longest(of.Streak.LongestLost, of),
             record.Time(of.BestTime),
             record.Date(of.BestTime),
             record.Moves(of.FewestMoves),

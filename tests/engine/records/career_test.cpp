@@ -50,7 +50,7 @@ TEST(Careers, StreaksAndBestsFollowTheTimeOfEachPlayer) {
     EXPECT_EQ(of("Ann"), "6|4|66.67%|1 won|3|2|0:01:00|1/4/2004|80|1/4/2004|300|1/6/2004");
     EXPECT_EQ(of("Bob"), "4|1|25%|3 lost|1|3|0:01:39|1/1/2004|99|1/1/2004||");
     EXPECT_EQ(of(""), "10|5|50%||3|3|0:01:00|1/4/2004|80|1/4/2004|300|1/6/2004");
-    EXPECT_EQ(of("Carl"), "0|0|||0|0||||||");
+    EXPECT_EQ(of("Carl"), "0|0||||||||||");
 
     const Career::Result all = career.Work({});
     EXPECT_EQ(Row(mCareerTables::Players(career, all, {}), "Bob"), of("Bob"));
