@@ -10,6 +10,7 @@
 #include "engine/help/mRulesWords.h"
 #include "engine/rules/mPlay.h"
 #include "engine/state/cData.h"
+#include "engine/state/cTrans.h"
 
 namespace mSpoken {
 
@@ -109,21 +110,23 @@ std::string Lifted(int PicID, int above) {
                        count == 0 ? "no pile takes it" : mRulesWords::List(groups) + verb);
 }
 
-Change::Change() {
-    for (int PicID = 0; PicID < MaxCards; ++PicID) {
-        before_[static_cast<std::size_t>(PicID)] = PicBack.PicCards(PicID);
+// Made at every command, for a sentence that a player may never hear: it takes no more than it needs.
+Change::Change() : records_(gTrans->GetTransID()) {
+    for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
+        const CardRecord& card = PicBack.PicCards(PicID);
+        before_[static_cast<std::size_t>(PicID)] = {card.Cell, card.Pile, card.Pos, card.FaceMode == 1};
     }
 }
 
 std::string Change::Text(int byHand) const {
-    if (!gData->Figures.GameRunning) return {};
+    if (!gData->Figures.GameRunning || gTrans->GetTransID() == records_) return {};
     std::map<PilePlace, Group> elsewhere;
     Group fromStock, toStock, toGoal, turned;
     for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
-        const CardRecord& was = before_[static_cast<std::size_t>(PicID)];
+        const Place& was = before_[static_cast<std::size_t>(PicID)];
         const CardRecord& is = PicBack.PicCards(PicID);
-        if (PlaceOf(was) == PlaceOf(is) && was.Pos == is.Pos) {
-            if (was.FaceMode == 1 && is.FaceMode != 1) turned.push_back(PicID);
+        if (was.Cell == is.Cell && was.Pile == is.Pile && was.Pos == is.Pos) {
+            if (was.Closed && is.FaceMode != 1) turned.push_back(PicID);
         } else if (is.Cell == Stock) {
             toStock.push_back(PicID);
         } else if (is.Cell == Goal && PicID != byHand) {

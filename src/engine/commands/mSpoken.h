@@ -33,7 +33,12 @@ public:
     [[nodiscard]] std::string Text(int byHand = -1) const;
 
 private:
-    std::array<CardRecord, MaxCards> before_;
+    struct Place {
+        int Cell = 0, Pile = 0, Pos = 0;
+        bool Closed = false;
+    };
+    std::array<Place, MaxCards> before_{};
+    int records_;  ///< in the log of moves: while it has as many, nothing has moved
 };
 
 }  // namespace mSpoken
