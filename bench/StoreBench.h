@@ -69,6 +69,3 @@ private:
     task();
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
-
-constexpr double LoadLimit = 1000.0;  // milliseconds, for a million records
-constexpr double ViewLimit = 100.0;   // for all else
