@@ -132,6 +132,15 @@ TEST_F(MoveCard, AutoplayFollowsPlayedMovesOnly) {
     }
 }
 
+// Whatever the rule for building would say of the next card.
+TEST_F(MoveCard, AFoundationOfThirteenIsFull) {
+    mPosition::Begin({});
+    mScript::Lay("G0 AS-KS; H0 AC");
+    gArray->MoveCard(Card("AC"), Goal, 0, RankCount, tMod::Play);
+    EXPECT_EQ(gArray->GetTop(Goal, 0), FullGoalTop);
+    EXPECT_EQ(mPosition::Pile(Home, 0), "AC");
+}
+
 TEST_F(MoveCard, ReduceOneTakesTheTopCardOffTheTablesAlone) {
     mPosition::Begin({});
     mScript::Lay("H0 5C 4H");
