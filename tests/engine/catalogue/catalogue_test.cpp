@@ -47,6 +47,11 @@ TEST_F(Catalogue, GroupsAndNumbersFollowTheListOfFamilies) {
         const Row& family = families.at(static_cast<std::size_t>(group));
         int originals = 0;
         EXPECT_EQ(gData->GroupfromGiD(group + 1), family.Group);
+        // A family of another size would shift all that follow.
+        ASSERT_TRUE(gData->GroupfromSiD(SiD + family.Games) == family.Group &&
+                    (SiD + family.Games == gData->TotalGames() ||
+                     gData->GroupfromSiD(SiD + family.Games + 1) != family.Group))
+            << family.Group << " has no longer " << family.Games << " games, as `families` says";
         for (int Mid = 1; Mid <= family.Games; ++Mid) {
             ++SiD;
             EXPECT_EQ(gData->GroupfromSiD(SiD), family.Group);
