@@ -65,6 +65,7 @@ frmMoreStat::frmMoreStat(QWidget* owner) : QDialog(owner) {
     connect(SSTab1, &QTabWidget::currentChanged, this, &frmMoreStat::ShowPage);
     mDialog::FirstSize(this, {std::max(sizeHint().width(), fontMetrics().averageCharWidth() * 175),
                               fontMetrics().height() * 40});
+    SSTab1->setFocus();
 }
 
 void frmMoreStat::BuildChoices() {
