@@ -178,9 +178,12 @@ void ListCommands::Sort(int column, Qt::SortOrder order) {
 void ListCommands::ShowMenu(const QPoint& place) {
     copy_->setEnabled(view_->selectionModel()->hasSelection());
     const bool isDeal = SelectedDeal().has_value();
+    // The last one goes only now: a deal that is played out of a menu asks and deals while the menu's own
+    // event is still at work.
+    const QString name = QStringLiteral("mnuList");
+    delete view_->findChild<QMenu*>(name, Qt::FindDirectChildrenOnly);
     auto* menu = new QMenu(view_);
-    menu->setObjectName(QStringLiteral("mnuList"));
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(name);
     // Only while the menu is up: the key copies whenever something is selected.
     connect(menu, &QMenu::aboutToHide, this, [this] { copy_->setEnabled(true); });
     menu->addAction(copy_);
