@@ -10,7 +10,7 @@ from contextlib import closing
 
 from gi.repository import GLib
 
-from play import Driver, deal, expect, make
+from play import Driver, commands_of, deal, expect, make
 from reader import Bus, Reader, all_below, children, named, role_of, wait
 from window import Failure, Game, run
 
@@ -116,20 +116,6 @@ def check_table(reader, game, mirror, state, when):
                 raise Failure(f"{when}: {name} is said to lie at {x},{y} {width}x{height} instead of {at}")
 
 
-def explore(reader, game, program, state):
-    """The pointer over the index of an open card that others cover reads that very card."""
-    pile, cards = next((pile, cards) for pile, cards in wanted_table(state)
-                       if len(cards) > 1 and "Face-down card" not in (cards[-1][0], cards[-2][0])
-                       and pile.startswith("Tableau"))
-    name, left, top = cards[-2]
-    found = reader.at(program, *game.at(left + 150, top + 90))
-    expect("the card under the pointer", (found.get_name(), role_of(found)), (name, "list item"))
-    expect("its pile", (found.get_parent().get_name(), found.get_index_in_parent()), (pile, len(cards) - 2))
-    stock = next(pile for pile in children(named(program, "Table")) if pile.get_name().startswith("Stock"))
-    covered = ["showing" not in reader.states(card) for card in children(stock)]
-    expect("the stock's cards, seen only where they are not covered", (covered[0], covered[-1]), (True, False))
-
-
 def play_and_read(reader, game, program, driver, moves):
     state = driver.do(moves[0])
     mirror = Mirror(reader, named(program, "Table"))
@@ -137,7 +123,6 @@ def play_and_read(reader, game, program, driver, moves):
     for command in moves[1:MOVES]:
         state = make(game, driver, state, command)
         check_table(reader, game, mirror, state, command)
-    explore(reader, game, program, state)
     status = wait("the status texts", lambda: named(program, "Status"))
     moves_made = driver.do("tick 0")["status"][2]
     wait("the number of moves", lambda: [label.get_name() for label in children(status)][2] == moves_made)
@@ -261,8 +246,7 @@ def read_dialogs(reader, game, program):
 
 
 def listen(screen, program_file, lab, moves_file):
-    with open(moves_file, encoding="utf-8") as file:
-        moves = [line.strip() for line in file if line.strip()]
+    moves = commands_of(moves_file)
     with closing(Bus(screen)):
         reader = Reader()  # it listens before the program begins
         with Game(screen, program_file) as game, closing(Driver(lab)) as driver:

@@ -7,14 +7,13 @@ The moves are commands of the text driver, which plays the same deal and says wh
 program says is all that this player knows of the window.
 """
 
-import os
 import re
 import sys
 from contextlib import closing
 
 from gi.repository import GLib
 
-from play import Driver, expect, records
+from play import Driver, commands_of, expect, records
 from reader import Bus, Reader, children, named, role_of, wait
 from window import Failure, Game, run, wait_for
 
@@ -193,8 +192,7 @@ def win(player, driver, commands):
 
 
 def play(screen, program_file, lab, moves_file):
-    with open(moves_file, encoding="utf-8") as file:
-        commands = [line.strip() for line in file if line.strip()]
+    commands = commands_of(moves_file)
     name, number = re.match(r'start "(.*)" (\d+)', commands[0]).groups()
     with closing(Bus(screen)):
         reader = Reader()
@@ -213,7 +211,7 @@ def play(screen, program_file, lab, moves_file):
                 wait_for("the end-of-game dialog", lambda: screen.in_front("Congrats"))
                 game.keys("Escape")
             game.leave()
-        expect("the records", [(row[1], row[-1]) for row in records(os.environ["XDG_DATA_HOME"])][1:],
+        expect("the records", [(row[1], row[-1]) for row in records()][1:],
                [(name, "1"), (name, "1")])
     return f"{name} was won by keys and by actions"
 

@@ -7,23 +7,15 @@ random with dealing, undo, replay and new games in between, and after up to thre
 stood in the score file before is still there, every line is whole, and the next start works.
 """
 
-import os
 import random
 import sys
 import time
 
+from play import score_file
 from window import Failure, Game, run
 
 GAMES = ["Klondike", "Spider", "Freecell", "Canfield", "Yukon", "Fan"]
 KEYS = ["F2", "ctrl+F2", "F12", "ctrl+z", "ctrl+x", "ctrl+c", "ctrl+v", "shift+F1", "shift+F2", "F7"]
-
-
-def score_file():
-    for path, _, files in os.walk(os.environ["XDG_DATA_HOME"]):
-        if "Player1.sre" in files:
-            with open(os.path.join(path, "Player1.sre"), "rb") as file:
-                return file.read()
-    return b""
 
 
 def play_and_kill(screen, program, seed):

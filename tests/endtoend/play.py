@@ -62,12 +62,21 @@ def make(game, driver, state, command):
     return after
 
 
-def records(folder):
-    for path, _, files in os.walk(folder):
+def commands_of(path):
+    with open(path, encoding="utf-8") as file:
+        return [line.strip() for line in file if line.strip()]
+
+
+def score_file():
+    for path, _, files in os.walk(os.environ["XDG_DATA_HOME"]):
         if "Player1.sre" in files:
-            with open(os.path.join(path, "Player1.sre"), newline="", encoding="utf-8") as file:
-                return list(csv.reader(file))
-    return []
+            with open(os.path.join(path, "Player1.sre"), "rb") as file:
+                return file.read()
+    return b""
+
+
+def records():
+    return list(csv.reader(score_file().decode().splitlines()))
 
 
 def expect(what, seen, wanted):
@@ -85,9 +94,7 @@ def deal(game, number):
 
 
 def play(screen, program, lab, moves):
-    data = os.environ["XDG_DATA_HOME"]
-    with open(moves, encoding="utf-8") as file:
-        commands = [line.strip() for line in file if line.strip()]
+    commands = commands_of(moves)
     number = commands[0].split()[-1]
     with Game(screen, program) as game, closing(Driver(lab)) as driver:
         game.choose("Klondike")
@@ -95,14 +102,14 @@ def play(screen, program, lab, moves):
         # Actual size; and the last entry of the menu hides the toolbar.
         game.keys("ctrl+0", "alt+g", "Up", "Return")
         title = deal(game, number)
-        expect("the abandoned game", [row[-1] for row in records(data)], ["0"])
+        expect("the abandoned game", [row[-1] for row in records()], ["0"])
 
         state = driver.do(commands[0])
         for command in commands[1:]:
             state = make(game, driver, state, command)
         expect("the driver's own win", state["finished"], 1)
         wait_for("the end-of-game dialog", lambda: screen.in_front("Congrats"))
-        won = records(data)[-1]
+        won = records()[-1]
         expect("the record's game, number and result", [won[1], won[2], won[6]], ["Klondike", number, "1"])
         game.keys("Escape")
 
@@ -110,7 +117,7 @@ def play(screen, program, lab, moves):
         wait_for("another game", lambda: not screen.windows(title))
         screen.settle()
         game.leave()
-        expect("all results", [row[-1] for row in records(data)], ["0", "1", "0"])
+        expect("all results", [row[-1] for row in records()], ["0", "1", "0"])
     return "a game was chosen, abandoned, dealt by number, won, and recorded"
 
 

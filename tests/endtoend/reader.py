@@ -89,9 +89,6 @@ class Reader:
         x, y, width, height = self.place(thing)
         return x + width // 2, y + height // 2
 
-    def at(self, thing, x, y):
-        return thing.get_accessible_at_point(x, y, self.atspi.CoordType.SCREEN)
-
     def actions(self, thing):
         return [thing.get_action_name(i) for i in range(thing.get_n_actions())]
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Makes the picture of a running game that the README and software catalogues show. Run by hand:
 
-    tests/endtoend/picture.py build/check/tarnival build/check/tarnival-lab tests/endtoend/klondike-win.txt docs/klondike.png
+    tools/picture.py build/check/tarnival build/check/tarnival-lab tests/endtoend/klondike-win.txt docs/klondike.png
 
 The size of the picture stands in packaging/org.kelmor.Tarnival.metainfo.xml, too.
 """
@@ -9,8 +9,10 @@ The size of the picture stands in packaging/org.kelmor.Tarnival.metainfo.xml, to
 import subprocess
 import sys
 from contextlib import closing
+from pathlib import Path
 
-from play import Driver, deal, make
+sys.path.append(str(Path(__file__).resolve().parent.parent / "tests" / "endtoend"))
+from play import Driver, commands_of, deal, make
 from window import Game, run
 
 MOVES = 22  # of the game: some runs, and all piles still in use
@@ -22,8 +24,7 @@ def toolbar(game):
 
 
 def picture(screen, program, lab, moves, file):
-    with open(moves, encoding="utf-8") as lines:
-        commands = [line.strip() for line in lines if line.strip()]
+    commands = commands_of(moves)
     with Game(screen, program) as game, closing(Driver(lab)) as driver:
         game.choose("Klondike")
         screen.settle()
