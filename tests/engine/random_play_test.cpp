@@ -1,28 +1,12 @@
 // A random player in every game. After each action the card table must hold together; taking all moves
 // back must give the deal, making them again the position before, with faces and places.
-#include <cstdlib>
-#include <string>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include "engine/commands/mGen.h"
-#include "engine/commands/mMain.h"
-#include "engine/rules/mFunc.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cTrans.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
+#include "support/FromEnvironment.h"
 #include "tools/RandomPlayer.h"
 #include "tools/mChecks.h"
 
 namespace {
-
-// For long runs by hand.
-int Actions(int usual) {
-    const char* wanted = std::getenv("TARNIVAL_RANDOM_ACTIONS");
-    return wanted ? std::atoi(wanted) : usual;
-}
 
 class Session {
 public:
@@ -102,7 +86,7 @@ TEST_P(RandomPlayAll, EveryGame) {
     std::uint32_t seed = 1;
     for (const std::string& game : games) {
         Engine engine;
-        ASSERT_EQ(Session(game, seed++).Play(Actions(2500)), "");
+        ASSERT_EQ(Session(game, seed++).Play(FromEnvironment("TARNIVAL_RANDOM_ACTIONS", 2500)), "");
     }
 }
 

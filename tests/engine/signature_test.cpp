@@ -4,13 +4,8 @@
 #include <cstdint>
 #include <fstream>
 #include <set>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "engine/state/cData.h"
-#include "engine/state/cTrans.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 #include "tools/mSignature.h"
 
 namespace {

@@ -7,9 +7,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <stdexcept>
 #include <string>
-#include <vector>
 
 #include <fcntl.h>
 #include <sys/socket.h>
@@ -18,26 +16,19 @@
 #include <unistd.h>
 
 #include "engine/commands/mGen.h"
-#include "engine/commands/mLoad.h"
-#include "engine/outside/DiskFiles.h"
-#include "engine/outside/memorylayer.h"
 #include "engine/records/PlayerList.h"
-#include "engine/records/cScore.h"
 #include "engine/records/mFavourites.h"
 #include "engine/records/mStrayFiles.h"
-#include "engine/state/cData.h"
 #include "engine/state/mPlayerName.h"
-#include "window/outside/QtSettings.h"
+#include "window/outside/Program.h"
+
+using mFuzz::Expect;
 
 namespace {
 
 namespace fs = std::filesystem;
 
 constexpr const char* Application = "Tarnival 2004 11.0";
-
-void Expect(bool holds, const char* what) {
-    if (!holds) throw std::logic_error(what);
-}
 
 /// A home of its own for every input, away from the user's.
 class ScratchHome {
@@ -70,31 +61,6 @@ private:
         std::string Before;
     };
     std::array<Variable, 2> variables_{{{"XDG_DATA_HOME", {}}, {"XDG_CONFIG_HOME", {}}}};
-};
-
-/// The program over that home, without windows.
-class Running {
-public:
-    Running() {
-        settings_.SetReport([this](const std::string& text) { outside_.Forms.Inform(text); });
-        outside_.Forms.Answer = true;
-        mLoad::Main({outside_.Stage, settings_, files_, outside_.Calendar, outside_.Sounds, outside_.Forms,
-                     outside_.Help});
-        mGen::InitApp();
-    }
-    ~Running() {
-        outside_.Forms.Answer = false;  // nothing is tried again and again
-        mLoad::UnloadMain();
-    }
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-
-    [[nodiscard]] MemoryForms& Forms() { return outside_.Forms; }
-
-private:
-    MemoryLayer outside_;
-    QtSettings settings_;
-    DiskFiles files_;
 };
 
 void ExpectListInOrder() {
@@ -171,14 +137,8 @@ void SettingsFile(std::string_view bytes) {
         const QtSettings store;
         before = store.GetSection(Application, "Other");
     }
-    const Running program;
+    const Program program;
     ExpectListInOrder();
-    Expect(gData->GetGameID(gData->LastGName()) != 0, "the last game is in no family");
-    for (const NumberSetting& setting :
-         {Setting::Autoplay, Setting::DeckIndex, Setting::BGIndex, Setting::Zoom}) {
-        const int value = gData->Get(setting);
-        Expect(value >= setting.Low && value <= setting.High, "a setting lies outside its range");
-    }
     mGen::StartGame(gData->LastGName(), 1.0);
     if (gData->Figures.GameRunning) mGen::CloseGame(0);
     gScore->OpenAllScore();
@@ -212,7 +172,7 @@ void Home(std::string_view bytes) {
         if (fs::symlink_status(path, ignored).type() != fs::file_type::not_found) continue;
         PutAnything(path, bytes[i + 1], bytes.substr(i));
     }
-    Running program;
+    Program program;
     ExpectListInOrder();
     mStrayFiles::Offer();
     ExpectListInOrder();

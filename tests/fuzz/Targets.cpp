@@ -2,13 +2,11 @@
 #include "fuzz/Targets.h"
 
 #include <algorithm>
-#include <stdexcept>
 #include <string>
 
 #include <nlohmann/json.hpp>
 
 #include "engine/commands/mGen.h"
-#include "engine/commands/mLoad.h"
 #include "engine/commands/mMain.h"
 #include "engine/commands/mSelect.h"
 #include "engine/records/ImportedRecords.h"
@@ -25,23 +23,9 @@
 #include "tools/Lab.h"
 #include "tools/mChecks.h"
 
+using mFuzz::Expect;
+
 namespace {
-
-void Expect(bool holds, const char* what) {
-    if (!holds) throw std::logic_error(what);
-}
-
-/// The engine over an outside that was prepared before its start.
-class Running {
-public:
-    explicit Running(MemoryLayer& layer) {
-        mLoad::Main(layer.Layer());
-        mMain::Load();
-    }
-    ~Running() { mLoad::UnloadMain(); }
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-};
 
 int LinesWithText(std::string_view bytes) {
     return mScoreFile::ForEachLine(bytes, [](std::string_view) { return false; });
@@ -165,19 +149,20 @@ void FavouritesFile(std::string_view bytes) {
 }
 
 void SettingValues(std::string_view bytes) {
-    MemoryLayer layer;
+    decltype(MemorySettings::Values) values;
     while (!bytes.empty()) {
         const std::string_view line = bytes.substr(0, bytes.find('\n'));
         bytes.remove_prefix(std::min(bytes.size(), line.size() + 1));
         const auto equals = line.find('=');
         if (equals == std::string_view::npos) continue;
-        layer.Settings.Values[std::string(line.substr(0, equals))] = line.substr(equals + 1);
+        values[std::string(line.substr(0, equals))] = line.substr(equals + 1);
     }
-    const Running running(layer);
+    const Engine engine(std::move(values));
     constexpr const NumberSetting* settings[] = {
         &Setting::Autoplay,      &Setting::CustomColor, &Setting::ShowToolbar, &Setting::CardSpeed,
         &Setting::UndoSpeed,     &Setting::BGIndex,     &Setting::RangeIndex,  &Setting::DeckIndex,
-        &Setting::SoundCardDown, &Setting::TvIndex,     &Setting::Fade,        &Setting::ReplaySpeed};
+        &Setting::SoundCardDown, &Setting::TvIndex,     &Setting::Zoom,        &Setting::Fade,
+        &Setting::ReplaySpeed};
     for (const NumberSetting* setting : settings) {
         const int value = gData->Get(*setting);
         Expect(value >= setting->Low && value <= setting->High, "a setting lies outside its range");

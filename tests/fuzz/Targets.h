@@ -4,9 +4,15 @@
 #pragma once
 
 #include <array>
+#include <stdexcept>
 #include <string_view>
 
 namespace mFuzz {
+
+/// What must hold whatever the bytes are.
+inline void Expect(bool holds, const char* what) {
+    if (!holds) throw std::logic_error(what);
+}
 
 /// As a player's score file: reading, every view, the export, and appending behind it.
 void ScoreFile(std::string_view bytes);

@@ -1,6 +1,5 @@
 // The solver's rules against the engine's: in random positions of every game the same moves, and after each
 // the same table; every win that the solver finds is one for the engine.
-#include <cstdlib>
 #include <random>
 #include <string>
 
@@ -16,14 +15,9 @@
 #include "solver/Search.h"
 #include "solver/Table.h"
 #include "support/Fixture.h"
+#include "support/FromEnvironment.h"
 
 namespace {
-
-// For long runs by hand.
-int Positions(int usual) {
-    const char* wanted = std::getenv("TARNIVAL_SOLVER_POSITIONS");
-    return wanted ? std::atoi(wanted) : usual;
-}
 
 // Plays a game at random on both tables. Empty where no difference was found in so many positions.
 std::string PlayBoth(const Definition& game, bool autoplay, int positions, std::uint32_t seed) {
@@ -72,7 +66,7 @@ std::string PlayBoth(const Definition& game, bool autoplay, int positions, std::
 TEST(SolverAndEngine, HaveTheSameMovesInAllGames) {
     const Engine engine;
     gRunning.Quiet = true;
-    const int positions = Positions(15);
+    const int positions = FromEnvironment("TARNIVAL_SOLVER_POSITIONS", 15);
     std::uint32_t seed = 1;
     for (const Definition* game : mFamilies::All()) {
         EXPECT_EQ(PlayBoth(*game, false, positions, ++seed), "");

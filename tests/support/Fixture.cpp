@@ -4,6 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "engine/commands/mLoad.h"
@@ -17,7 +18,8 @@
 #include "engine/state/cTrans.h"
 #include "tools/RandomPlayer.h"
 
-Engine::Engine() {
+Engine::Engine(decltype(MemorySettings::Values) settings) {
+    Layer.Settings.Values = std::move(settings);
     mLoad::Main(Layer.Layer());
     mMain::Load();
 }

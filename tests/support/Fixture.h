@@ -11,7 +11,8 @@
 /// The engine from the program's start to its end. Only one can live at a time.
 class Engine {
 public:
-    Engine();
+    /// With what the settings hold at its start, by "section/key".
+    explicit Engine(decltype(MemorySettings::Values) settings = {});
     ~Engine();
     Engine(const Engine&) = delete;
     Engine& operator=(const Engine&) = delete;

@@ -129,11 +129,15 @@ void Lay(const std::string& table) {
     }
 }
 
+void Begin(const TestGame& game, const std::string& table) {
+    mPosition::Begin(game);
+    Lay(table);
+}
+
 std::string Fault(const TestGame& game, const std::string& script) {
     const std::vector<std::string> parts = Split(script, '|');
     if (parts.size() % 2 != 1) throw std::invalid_argument("steps without a table: " + script);
-    mPosition::Begin(game);
-    Lay(parts[0]);
+    Begin(game, parts[0]);
     const std::vector<CardPlace> first = mChecks::Places();
     for (std::size_t i = 1; i < parts.size(); i += 2) {
         for (const std::string& step : Split(parts[i], ' ')) Make(step);

@@ -2,17 +2,16 @@
 #pragma once
 
 #include <initializer_list>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 
 namespace mScript {
 
 /// Lays piles on the table: "H0 KS (4C) QH; G1 AH-KH" with H for the tableau, S for the stock, W for the
 /// waste, G for the foundations and R for the reserve.
 void Lay(const std::string& table);
+/// An empty table of that game as mPosition::Begin makes it, and these piles on it.
+void Begin(const TestGame& game, const std::string& table);
 
 /// Plays a text such as "H0 KH QS; H1 KD | QS>H1 | H0 KH; H1 KD QS" in a made-up game: first the table,
 /// then steps and the table after them in turn. Steps:

@@ -1,26 +1,20 @@
-// The text driver: every command, faults that must change nothing, and the
-// program itself on its pipe.
+// The text driver: every command, and faults that must change nothing. The program itself is used by the
+// tests of whole games, through its pipe.
 #include <algorithm>
-#include <cmath>
-#include <cstdio>
-#include <fstream>
 #include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <unistd.h>
 #include <nlohmann/json.hpp>
 
 #include "engine/state/cData.h"
+#include "support/Expect.h"
 #include "tools/Lab.h"
 
 namespace {
 
 using Json = nlohmann::ordered_json;
-using testing::HasSubstr;
 
 class LabTest : public testing::Test {
 protected:
@@ -166,23 +160,6 @@ TEST_F(LabTest, DragMovesExactlyAndPressPicks) {
               Json::parse(R"row(["1","Stock (Pile 1, Card 24)","Waste (Pile 1, Card 1)","1","current"])row"));
     EXPECT_EQ(Ask("undo")["trans"], 0);
     EXPECT_EQ(Ask("history")["history"][0][4], "undone");
-}
-
-// The program answers line by line on a pipe, skips blank lines and ends well with its input.
-TEST(LabProgram, SpeaksOnItsPipe) {
-    const std::string answers = testing::TempDir() + "tarnival-lab-" + std::to_string(getpid()) + ".txt";
-    FILE* lab = popen((std::string(TARNIVAL_LAB) + " > '" + answers + "'").c_str(), "w");
-    ASSERT_NE(lab, nullptr);
-    std::fputs("start \"Klondike\" 1\n\n  \nnonsense\nstate", lab);
-    EXPECT_EQ(pclose(lab), 0);
-    std::ifstream file(answers);
-    std::vector<Json> lines;
-    for (std::string line; std::getline(file, line);) lines.push_back(Json::parse(line));
-    std::remove(answers.c_str());
-    ASSERT_EQ(lines.size(), 3U);
-    EXPECT_EQ(lines[0]["number"], 1);
-    EXPECT_THAT(lines[1]["error"].get<std::string>(), HasSubstr("nonsense"));
-    EXPECT_EQ(lines[2]["cells"], lines[0]["cells"]);
 }
 
 }  // namespace

@@ -3,22 +3,13 @@
 
 #include <functional>
 #include <stdexcept>
-#include <string>
-#include <vector>
 
-#include <gtest/gtest.h>
+#include <QTest>
+#include <QtWidgets>
 
-#include <QAbstractItemModel>
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QDialog>
-#include <QTimer>
-#include <QtTest/QTest>
-
-#include "engine/commands/mGen.h"
 #include "engine/commands/mLoad.h"
-#include "engine/outside/memorylayer.h"
-#include "engine/state/cData.h"
+#include "engine/records/cScore.h"
+#include "support/EngineTest.h"
 
 class DialogTest : public testing::Test {
 protected:
@@ -49,12 +40,22 @@ protected:
         view->scrollTo(index);
         QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::NoModifier, view->visualRect(index).center());
     }
-    [[nodiscard]] static std::vector<std::string> Rows(const QAbstractItemView* view) {
+    [[nodiscard]] static std::string Cell(const QAbstractItemView* view, int row, int column) {
+        return view->model()->index(row, column).data().toString().toStdString();
+    }
+    [[nodiscard]] static std::vector<std::string> Rows(const QAbstractItemView* view, int column = 0) {
         std::vector<std::string> rows;
-        for (int row = 0; row < view->model()->rowCount(); ++row) {
-            rows.push_back(view->model()->index(row, 0).data().toString().toStdString());
-        }
+        for (int row = 0; row < view->model()->rowCount(); ++row) rows.push_back(Cell(view, row, column));
         return rows;
+    }
+    static void Choose(const QWidget& dialog, const char* combo, const char* text) {
+        auto* choice = Find<QComboBox>(dialog, combo);
+        ASSERT_GE(choice->findText(QString::fromUtf8(text)), 0) << text;
+        choice->setCurrentIndex(choice->findText(QString::fromUtf8(text)));
+    }
+    /// A line of a player's score file.
+    void Add(const std::string& player, const std::string& line) {
+        layer_.Files.Contents[cScore::FileName(player)] += line + "\r\n";
     }
     [[nodiscard]] static std::string Selected(const QAbstractItemView* view) {
         const QModelIndexList rows = view->selectionModel()->selectedRows();

@@ -3,20 +3,12 @@
 
 #include <functional>
 #include <memory>
-#include <string>
-#include <utility>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include <QAction>
-#include <QApplication>
-#include <QMouseEvent>
 #include <QTest>
+#include <QtWidgets>
 
 #include "engine/commands/mLoad.h"
-#include "engine/outside/memorylayer.h"
-#include "engine/rules/mFunc.h"
+#include "support/EngineTest.h"
 #include "window/table/TableView.h"
 #include "window/table/frmMain.h"
 

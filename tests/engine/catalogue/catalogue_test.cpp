@@ -3,14 +3,8 @@
 #include <fstream>
 #include <iterator>
 #include <regex>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "engine/commands/mGen.h"
-#include "engine/state/cData.h"
-#include "engine/state/cGames.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 
 namespace {
 

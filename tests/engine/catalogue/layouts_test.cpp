@@ -2,17 +2,8 @@
 // for the piles to grow.
 #include <algorithm>
 #include <set>
-#include <string>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include "engine/commands/mGen.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cGames.h"
-#include "engine/state/cPlate.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 
 namespace {
 

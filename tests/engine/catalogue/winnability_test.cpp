@@ -1,17 +1,12 @@
 // The figures of winning: whether they are of the rules as they are now, and how they read.
 #include <fstream>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "engine/catalogue/definition.h"
 #include "engine/catalogue/families.h"
 #include "engine/catalogue/mWinnability.h"
 #include "engine/help/mRules.h"
 #include "engine/help/mRulesWins.h"
-#include "engine/state/cData.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 
 namespace {
 

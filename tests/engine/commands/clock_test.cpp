@@ -1,36 +1,17 @@
 // Score, time and moves of the running game, and the texts that show them.
 #include <limits>
-#include <string>
-#include <tuple>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "engine/commands/mGen.h"
-#include "engine/commands/mMain.h"
-#include "engine/rules/mFunc.h"
 #include "engine/state/GameNumber.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cPlate.h"
-#include "support/Fixture.h"
+#include "support/Script.h"
 
 namespace {
 
-using testing::ElementsAre;
-
 TEST(Clock, FormatTime) {
-    const std::pair<int, const char*> rows[] = {{0, "0:00:00"},
-                                                {59, "0:00:59"},
-                                                {60, "0:01:00"},
-                                                {3599, "0:59:59"},
-                                                {3723, "1:02:03"},
-                                                {86399, "23:59:59"},
-                                                {86400, "24:00:00"},
-                                                {450007, "125:00:07"},
-                                                {-1, "-0:00:01"},
-                                                {-3723, "-1:02:03"},
-                                                {std::numeric_limits<int>::min(), "-596523:14:08"}};
+    constexpr int Least = std::numeric_limits<int>::min();
+    const std::pair<int, const char*> rows[] = {
+        {0, "0:00:00"},    {59, "0:00:59"},     {60, "0:01:00"},         {3599, "0:59:59"},
+        {3723, "1:02:03"}, {86399, "23:59:59"}, {86400, "24:00:00"},     {450007, "125:00:07"},
+        {-1, "-0:00:01"},  {-3723, "-1:02:03"}, {Least, "-596523:14:08"}};
     for (const auto& [seconds, text] : rows) EXPECT_EQ(mFunc::FormatTime(seconds), text);
 }
 
@@ -59,8 +40,7 @@ TEST(Clock, Score) {
 TEST(Clock, TheStoredScoreLagsOneTick) {
     Engine engine;
     gData->Set(Setting::Autoplay, 0);
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "9C 2C AS");
+    mScript::Begin({}, "H0 9C 2C AS");
     engine.Layer.Calendar.Advance(30);
     mPosition::DragTo(mPosition::Card("AS"), Goal, 0);
     EXPECT_THAT(mMain::TickTime(), ElementsAre("Score :10", "Time :0:00:30", "Moves :1"));
@@ -119,11 +99,10 @@ TEST(GameNumbers, ParseAndText) {
     }
     EXPECT_EQ(mGameNumber::Value(std::string("x")), 0.0);
     // Never with an exponent, which could not be read again.
-    const std::pair<GameNumber, const char*> texts[] = {{999999999999999.0, "999999999999999"},
-                                                        {std::string("007"), "007"},
-                                                        {12.5, "12.5"},
-                                                        {1e21, "1000000000000000000000"},
-                                                        {1e-7, "0.0000001"}};
+    const std::pair<GameNumber, const char*> texts[] = {
+        {999999999999999.0, "999999999999999"}, {std::string("007"), "007"}, {12.5, "12.5"},
+        {1e21, "1000000000000000000000"},       {1e-7, "0.0000001"},
+    };
     for (const auto& [number, text] : texts) EXPECT_EQ(mGameNumber::Text(number), text);
     const std::pair<double, const char*> grouped[] = {
         {999, "999"}, {1000, "1,000"}, {-123456, "-123,456"}, {999999999999999.0, "999,999,999,999,999"}};

@@ -1,24 +1,10 @@
 // Finding games by words of their names and rules, and by facets.
-#include <string>
-#include <tuple>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "engine/catalogue/mWinnability.h"
 #include "engine/commands/mFind.h"
-#include "engine/commands/mGen.h"
-#include "engine/commands/mMain.h"
-#include "engine/state/cData.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 
 namespace {
 
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-using testing::IsEmpty;
-using testing::SizeIs;
 using Names = std::vector<std::string>;
 
 class Find : public testing::Test {

@@ -2,22 +2,10 @@
 #include <algorithm>
 #include <map>
 #include <set>
-#include <string>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "engine/commands/mFrame.h"
-#include "engine/commands/mGen.h"
 #include "engine/commands/mKeys.h"
-#include "engine/commands/mMain.h"
-#include "engine/rules/mFunc.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cPlate.h"
-#include "engine/state/cTrans.h"
-#include "support/Fixture.h"
+#include "support/Script.h"
 #include "tools/RandomPlayer.h"
 
 namespace {
@@ -25,8 +13,6 @@ namespace {
 using mFrame::Step;
 using mFrame::Stop;
 using mKeys::Answer;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr Step arrows[] = {Step::Left, Step::Right, Step::Up, Step::Down};
 
@@ -121,10 +107,7 @@ TEST_F(Keys, ArrowsReachEveryCardAndPileOfEveryGame) {
 TEST_F(Keys, StepsGoWhereTheEyeExpectsThem) {
     TestGame game;
     game.Res.Piles = 2;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "KS QH");
-    mPosition::Lay(Home, 1, "2S");
-    mPosition::Lay(Home, 2, "(4C) JD TC 9H");
+    mScript::Begin(game, "H0 KS QH; H1 2S; H2 (4C) JD TC 9H");
     cPlate::ForEachMark([](MarkKind kind, int index) {
         const auto show = [&](int Cell, int piles) {
             if (index >= piles) return;
@@ -171,11 +154,7 @@ TEST_F(Keys, StepsGoWhereTheEyeExpectsThem) {
 }
 
 TEST_F(Keys, TheHandEndsInTheMovesOfTheMouse) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "(KC) 8H 7S 6D");
-    mPosition::Lay(Home, 1, "8D");
-    mPosition::Lay(Home, 2, "KH");
-    mPosition::Lay(Waste, 0, "AC");
+    mScript::Begin({}, "H0 (KC) 8H 7S 6D; H1 8D; H2 KH; W AC");
     const cPlate before = PicBack;
     // The first key shows the frame and does nothing else.
     EXPECT_EQ(mKeys::Act(), Answer::Done);
@@ -229,11 +208,7 @@ TEST_F(Keys, ARefusedLiftSaysWhy) {
                 .PileWidth = 1200,
                 .PosWidth = 0,
                 .cResNum = ResFreeCells};
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "(KC) KH QS JH 5C");
-    mPosition::Lay(Home, 1, "9S 8H 7S");
-    mPosition::Lay(Home, 2, "9C");
-    mPosition::Lay(Home, 3, "3H");
+    mScript::Begin(game, "H0 (KC) KH QS JH 5C; H1 9S 8H 7S; H2 9C; H3 3H");
     struct Row {
         int Pile, Pos;
         const char* Why;
@@ -248,8 +223,7 @@ TEST_F(Keys, ARefusedLiftSaysWhy) {
     }
     mKeys::PutBack();
     game.Home.MultiMove = false;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "9S 8H");
+    mScript::Begin(game, "H0 9S 8H");
     Heard();
     EXPECT_EQ(mKeys::LiftAt({{Home, 0}, 0}), Answer::Refused);
     EXPECT_THAT(Heard(), ElementsAre("Covered, and this game moves single cards only"));
@@ -259,9 +233,7 @@ TEST_F(Keys, TheStockDealsAndRedealsAndSaysWhatItBrought) {
     TestGame game;
     game.Stock.StockNum = StockNum::Redeal;
     game.Ext.cRedeals = 1;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "9S");
-    mPosition::Lay(Stock, 0, "(5H) (AC)");
+    mScript::Begin(game, "H0 9S; S (5H) (AC)");
     PicBack.ShowMark(MarkKind::Stock, 0, RedealMark, 0, 0);
     gData->Set(Setting::Autoplay, 1);
     Heard();
@@ -290,12 +262,8 @@ TEST_F(Keys, TheStockDealsAndRedealsAndSaysWhatItBrought) {
 }
 
 TEST_F(Keys, WhatAMoveSetsOffIsTold) {
-    TestGame game;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "(JC) AH");
-    mPosition::Lay(Home, 1, "2H");
-    mPosition::Lay(Home, 2, "3H");
-    mPosition::Lay(Home, 3, "2C");
+    const TestGame game;
+    mScript::Begin(game, "H0 (JC) AH; H1 2H; H2 3H; H3 2C");
     gData->Set(Setting::Autoplay, 1);
     Heard();
     PicBack.ShowMark(MarkKind::Right, 1, 0, 0, 0);
@@ -307,16 +275,7 @@ TEST_F(Keys, WhatAMoveSetsOffIsTold) {
     EXPECT_THAT(Heard(), ElementsAre("Ace of Hearts to foundation pile 2, Jack of Clubs turned up, and two "
                                      "cards went to the foundations"));
     // The last card of a game.
-    mPosition::Begin(game);
-    for (const char* suit : {"S", "H", "D"}) {
-        mPosition::Lay(Goal,
-                       suit[0] == 'S'   ? 0
-                       : suit[0] == 'H' ? 1
-                                        : 2,
-                       std::string("A") + suit + "-K" + suit);
-    }
-    mPosition::Lay(Goal, 3, "AC-QC");
-    mPosition::Lay(Home, 0, "KC");
+    mScript::Begin(game, "G0 AS-KS; G1 AH-KH; G2 AD-KD; G3 AC-QC; H0 KC");
     Heard();
     Stand(Home, 0, 0);
     EXPECT_EQ(mKeys::ToFoundation(), Answer::Done);
@@ -327,9 +286,7 @@ TEST_F(Keys, WhatAMoveSetsOffIsTold) {
 }
 
 TEST_F(Keys, MouseAndKeysDoNotMeddleWithEachOther) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "9S");
-    mPosition::Lay(Home, 1, "TH");
+    mScript::Begin({}, "H0 9S; H1 TH");
     const int nine = mPosition::Card("9S");
     const auto place = std::pair(mFunc::CardLeft(nine), mFunc::CardTop(nine));
     ASSERT_EQ(mKeys::LiftAt({{Home, 0}, 0}), Answer::Done);
@@ -362,10 +319,7 @@ TEST_F(Keys, MouseAndKeysDoNotMeddleWithEachOther) {
 TEST_F(Keys, TheChosenPileGetsTheCard) {
     TestGame game;
     game.Home.PileWidth = 100;  // all piles lie almost over one another
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "TH");
-    mPosition::Lay(Home, 1, "TD");
-    mPosition::Lay(Home, 2, "9S");
+    mScript::Begin(game, "H0 TH; H1 TD; H2 9S");
     mKeys::LiftAt({{Home, 2}, 0});
     EXPECT_EQ(mKeys::DropAt({Home, 1}), Answer::Done);
     EXPECT_EQ(mPosition::Pile(Home, 1), "TD 9S");
@@ -375,10 +329,7 @@ TEST_F(Keys, TheChosenPileGetsTheCard) {
 }
 
 TEST_F(Keys, TheFrameStaysWithItsPile) {
-    TestGame game;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 0, "9S 8H");
-    mPosition::Lay(Home, 1, "9D");
+    mScript::Begin({}, "H0 9S 8H; H1 9D");
     PicBack.ShowMark(MarkKind::Home, 1, EmptyMark, 0, 0);
     Stand(Home, 0, 1);
     gArray->MoveCard(mPosition::Card("9D"), Home, 0, 2);

@@ -1,31 +1,15 @@
 // The life of a game: start, restart, abandoning, commands during a deal, and setting a game aside.
 #include <algorithm>
-#include <string>
-#include <tuple>
-#include <vector>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "engine/commands/mGen.h"
-#include "engine/commands/mMain.h"
 #include "engine/commands/mSelect.h"
 #include "engine/records/cScore.h"
 #include "engine/records/mPlayers.h"
-#include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cPlate.h"
-#include "engine/state/cTrans.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 #include "tools/RandomPlayer.h"
 #include "tools/mChecks.h"
 
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 std::string Difference(const std::vector<CardPlace>& expected) {
     return mChecks::Difference(expected, mChecks::Places(), [](int) { return false; });

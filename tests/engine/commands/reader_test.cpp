@@ -1,22 +1,12 @@
 // What a screen reader reads of the table: names of cards and piles, and what lies at a point.
 #include <set>
-#include <string>
-#include <vector>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "engine/commands/mGen.h"
 #include "engine/commands/mReader.h"
-#include "engine/state/cData.h"
-#include "engine/state/cPlate.h"
-#include "support/Fixture.h"
+#include "support/Script.h"
 
 namespace {
 
 using mReader::PilePlace;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using testing::MatchesRegex;
 
 class Reader : public testing::Test {
@@ -27,10 +17,7 @@ protected:
 TEST_F(Reader, PilesSayNameNumberAndCountOrWhatAnEmptyOneTakes) {
     TestGame game;
     game.Res.Piles = 1;
-    mPosition::Begin(game);
-    mPosition::Lay(Home, 1, "KS");
-    mPosition::Lay(Home, 2, "QS (4C) 2H");
-    mPosition::Lay(Waste, 0, "9D 8D");
+    mScript::Begin(game, "H1 KS; H2 QS (4C) 2H; W 9D 8D");
     cPlate::ForEachMark([](MarkKind kind, int index) {
         if (index == 0) PicBack.ShowMark(kind, index, EmptyMark, 0, 0);
     });
@@ -50,9 +37,7 @@ TEST_F(Reader, PilesSayNameNumberAndCountOrWhatAnEmptyOneTakes) {
 }
 
 TEST_F(Reader, APointShowsWhatLiesInFront) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "KS QH");
-    mPosition::Lay(Waste, 0, "9D 8D");
+    mScript::Begin({}, "H0 KS QH; W 9D 8D");
     PicBack.ShowMark(MarkKind::Home, 1, EmptyMark, gGames->GetCordX(Home, 1, 0),
                      gGames->GetCordY(Home, 1, 0));
     const PilePlace first{Home, 0};

@@ -1,17 +1,10 @@
 // A fitted game in windows of all sizes: nothing out of sight, at the deal and after many moves. A table that
 // is larger than its window: all of it within reach.
 #include <cmath>
-#include <string>
 
-#include <gtest/gtest.h>
-
-#include "engine/commands/mGen.h"
-#include "engine/commands/mMain.h"
 #include "engine/commands/mRoom.h"
 #include "engine/commands/mZoom.h"
-#include "engine/rules/mFunc.h"
-#include "engine/state/cData.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 #include "tools/RandomPlayer.h"
 
 namespace {

@@ -1,23 +1,11 @@
 // The general help pages, and the search that finds games and pages.
 #include <regex>
-#include <string>
 #include <string_view>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "engine/help/mHelpPages.h"
 #include "engine/help/mRules.h"
 #include "engine/help/mRulesWords.h"
-#include "engine/state/cData.h"
-#include "support/Fixture.h"
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
+#include "support/EngineTest.h"
 
 namespace {
 

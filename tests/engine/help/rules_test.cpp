@@ -6,25 +6,14 @@
 #include <functional>
 #include <map>
 #include <regex>
-#include <string>
-#include <tuple>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "engine/catalogue/definition.h"
-#include "engine/commands/mGen.h"
 #include "engine/help/mRules.h"
 #include "engine/help/mRulesFacts.h"
 #include "engine/rules/mCards.h"
-#include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cPlate.h"
-#include "engine/state/cTrans.h"
 #include "support/Columns.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 #include "tools/Hash.h"
 #include "tools/RandomPlayer.h"
 

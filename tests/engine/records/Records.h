@@ -1,12 +1,8 @@
 // Score files in memory for the tests of the records.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "engine/records/cScore.h"
-#include "engine/state/cData.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 
 /// The engine with players and their files; the clock stands at 2004-01-01 00:00:00.
 class Records : public Engine {

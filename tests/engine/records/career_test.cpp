@@ -1,18 +1,7 @@
 // Careers: streaks and bests in the order of time, filters, periods, progress; and their tables.
-#include <string>
-#include <tuple>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "engine/records/Career.h"
 #include "engine/records/Records.h"
 #include "engine/records/mCareerTables.h"
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::SizeIs;
 
 namespace {
 

@@ -1,14 +1,7 @@
 // The export, against a report written out by hand.
 #include <optional>
-#include <string>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "engine/records/Records.h"
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

@@ -1,20 +1,9 @@
 // Comma-separated values, written and read; and records that come from a file of elsewhere.
-#include <string>
-#include <tuple>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "engine/records/ImportedRecords.h"
 #include "engine/records/Records.h"
 #include "engine/records/mCareerTables.h"
 #include "engine/records/mCsv.h"
 #include "engine/records/mPlayers.h"
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 
 namespace {
 

@@ -1,21 +1,8 @@
 // The record of a game: its line, and what happens when files fail. Nothing is lost, nobody is held up, and
 // the user is told.
-#include <string>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "engine/commands/mGen.h"
 #include "engine/commands/mLoad.h"
-#include "engine/commands/mMain.h"
 #include "engine/records/Records.h"
 #include "engine/records/mPlayers.h"
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 namespace {
 

@@ -5,15 +5,11 @@
 #include <string>
 #include <vector>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "engine/records/mPlot.h"
+#include "support/Expect.h"
 
 using mPlot::Kind;
 using mStatistics::ChartData;
-using testing::ElementsAre;
-using testing::ElementsAreArray;
 
 namespace {
 

@@ -1,18 +1,8 @@
 // Lines of the score and favourites files: every form that is read, every fault that is not, and texts
 // in other encodings.
-#include <string>
-#include <tuple>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "engine/records/Records.h"
 #include "engine/records/mScoreFile.h"
 #include "engine/state/mText.h"
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

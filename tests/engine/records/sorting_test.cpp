@@ -1,9 +1,4 @@
 // Lists sort by what their texts stand for.
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
 #include "engine/records/Records.h"
 #include "engine/records/mLog.h"
 #include "engine/records/mSorting.h"

@@ -1,23 +1,10 @@
 // What the dialogs show: rates and their rounding, rows, chart data, the filters of the log at the
 // edges of days and months, and the session beside a running game.
-#include <string>
-#include <tuple>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "engine/records/Records.h"
 #include "engine/records/mLog.h"
 #include "engine/records/mRanking.h"
 #include "engine/records/mSession.h"
 #include "engine/records/mStatistics.h"
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 namespace {
 

@@ -1,18 +1,6 @@
 // The store: reading order, totals, rankings with their ties, periods, lines that cannot be read, and the
 // favourites.
-#include <string>
-#include <tuple>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "engine/records/Records.h"
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 namespace {
 

@@ -1,16 +1,9 @@
 // What the table does by itself: complete runs, the foundation pass, refills.
-#include <gmock/gmock.h>
-
-#include "engine/commands/mMain.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/codes.h"
 #include "support/Script.h"
 
 namespace {
 
 using testing::Each;
-using testing::SizeIs;
 
 class Autoplay : public RulesTest {
 protected:

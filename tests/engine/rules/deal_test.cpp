@@ -1,18 +1,9 @@
 // The deal: what lies on the foundations, which pile each next card goes to, and which cards lie closed.
 #include <set>
-#include <string>
-#include <tuple>
 
 #include <fmt/format.h>
-#include <gmock/gmock.h>
 
-#include "engine/commands/mGen.h"
 #include "engine/rules/mCards.h"
-#include "engine/rules/mFunc.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cGames.h"
-#include "engine/state/cPlate.h"
 #include "engine/state/mDeal.h"
 #include "support/Script.h"
 

@@ -1,26 +1,10 @@
 // The mouse flow: the grip, the group's steps, overlaps of two piles, the order of the scan, refused
 // drops, sounds.
-#include <string>
-#include <tuple>
-#include <utility>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "engine/commands/mMain.h"
-#include "engine/rules/mFunc.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cPlate.h"
-#include "engine/state/cTrans.h"
 #include "support/Script.h"
 
 namespace {
 
 using mPosition::Card;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 Point PlaceOf(const std::string& card) {
     const CardRecord& record = PicBack.PicCards(Card(card));
@@ -35,8 +19,7 @@ constexpr int FirstLeft = 1790;
 constexpr int FirstTop = 2200;
 
 TEST_F(Drag, TheCardKeepsTheGripOfThePress) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "9C");
+    mScript::Begin({}, "H0 9C");
     const int nine = Card("9C");
     // 12.5 and 13.5 both round to the even neighbour.
     mMain::MouseDown(nine, 12.5, 13.5);
@@ -57,8 +40,7 @@ TEST_F(Drag, AGroupTrailsByConstantSteps) {
         SCOPED_TRACE(Number(order));
         game_.Home.PileOrder = order;
         game_.Home.PosWidth = 77;
-        mPosition::Begin(game_);
-        mScript::Lay("H0 KH QS JD; H2 9C");
+        mScript::Begin(game_, "H0 KH QS JD; H2 9C");
         const int king = Card("KH");
         const Point start = PlaceOf("KH");
         mMain::MouseDown(king, 10, 10);
@@ -83,8 +65,7 @@ TEST_F(Drag, AGroupTrailsByConstantSteps) {
 }
 
 TEST_F(Drag, OverlapLooksAtTheCentreOrAtAnyPart) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "9C");
+    mScript::Begin({}, "H0 9C");
     const int card = Card("9C");
     const int left = FirstLeft + 2400;  // of pile 2
     const int top = FirstTop - 250;
@@ -140,8 +121,7 @@ TEST_F(Drag, TableauBeforeReserveBeforeFoundation) {
 // A drop looks for a foundation where its first card lies, wherever its top card is.
 TEST_F(Drag, AFoundationIsHitAtItsFirstPlace) {
     game_.Goal.PosWidth = 2000;
-    mPosition::Begin(game_);
-    mScript::Lay("H0 2C 3S; G0 AS 2S");
+    mScript::Begin(game_, "H0 2C 3S; G0 AS 2S");
     const Point top = PlaceOf("2S");
     ASSERT_TRUE(mPosition::Drag(Card("3S"), top.X, top.Y));
     EXPECT_EQ(mFunc::CardCell(Card("3S")), Home);
@@ -157,8 +137,7 @@ TEST_F(Drag, Sounds) {
     mMain::MouseUp(0);
     EXPECT_THAT(played, IsEmpty()) << "no game runs";
 
-    mPosition::Begin({});
-    mScript::Lay("H0 (KH) 2C; H1 9C");
+    mScript::Begin({}, "H0 (KH) 2C; H1 9C");
     mPosition::Press(Card("KH"));
     EXPECT_THAT(played, ElementsAre("CARDDOWN")) << "a refused lift";
     mPosition::DragTo(Card("2C"), Home, 1);
@@ -166,8 +145,7 @@ TEST_F(Drag, Sounds) {
 }
 
 TEST_F(Drag, ASecondPressDuringADragChangesNothing) {
-    mPosition::Begin({});
-    mScript::Lay("H0 KH QS; H1 KD");
+    mScript::Begin({}, "H0 KH QS; H1 KD");
     const int queen = Card("QS");
     mMain::MouseDown(queen, 10, 10);
     mMain::MouseMove(queen, 1210, -240);
@@ -185,8 +163,7 @@ TEST_F(Drag, ASecondPressDuringADragChangesNothing) {
 
 // A command that comes while a card is held finds the table as it was before the press.
 TEST_F(Drag, CommandsDuringADragSendTheCardBack) {
-    mPosition::Begin({});
-    mScript::Lay("H0 KH QS JD; H1 QC; H2 KD");
+    mScript::Begin({}, "H0 KH QS JD; H1 QC; H2 KD");
     ASSERT_TRUE(mPosition::DragTo(Card("QC"), Home, 2));
     const int queen = Card("QS");
     const Point place = PlaceOf("QS");

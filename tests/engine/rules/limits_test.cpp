@@ -1,10 +1,4 @@
 // Limits and peculiarities that only some games have, each as a little play.
-#include <string>
-#include <tuple>
-
-#include "engine/rules/mFunc.h"
-#include "engine/state/cData.h"
-#include "engine/state/codes.h"
 #include "support/Script.h"
 
 namespace {

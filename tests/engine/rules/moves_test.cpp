@@ -1,7 +1,4 @@
 // What may be lifted and where it may lie: the rules of the drag, each as a little play.
-#include <gmock/gmock.h>
-
-#include "engine/state/codes.h"
 #include "support/Script.h"
 
 namespace {

@@ -2,18 +2,10 @@
 #include <algorithm>
 #include <iterator>
 #include <sstream>
-#include <string>
 #include <string_view>
-#include <tuple>
 
-#include <gtest/gtest.h>
-
-#include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cGames.h"
-#include "engine/state/cPlate.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 
 namespace {
 

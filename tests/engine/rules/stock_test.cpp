@@ -1,10 +1,5 @@
 // The press on the stock, the click on its mark, and what the mark shows.
-#include "engine/commands/mMain.h"
-#include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
-#include "engine/state/cData.h"
-#include "engine/state/cPlate.h"
-#include "engine/state/codes.h"
 #include "support/Script.h"
 
 namespace {
@@ -72,8 +67,7 @@ TEST_F(StockTest, Redeals) {
     });
     for (const RedealType kind : {RedealType::WasteToStock, RedealType::GatherTableau}) {
         game_.Ext.cRedealType = kind;
-        mPosition::Begin(game_);
-        mScript::Lay("W 3C; H0 5D");
+        mScript::Begin(game_, "W 3C; H0 5D");
         PicBack.SetMarkPicture(MarkKind::Stock, 0, RedealMark);
         mMain::StockClick();
         EXPECT_EQ(gGames->StockNum, StockNum::Redeal);

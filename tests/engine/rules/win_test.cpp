@@ -1,21 +1,7 @@
 // Winning a game in every way, and what the end-of-game dialog starts afterwards: by then the chain of
 // moves that won must have ended, so that nothing of it touches the new deal.
-#include <string>
-#include <tuple>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
-
-#include "engine/commands/mGen.h"
-#include "engine/commands/mMain.h"
 #include "engine/records/cScore.h"
-#include "engine/rules/mFunc.h"
 #include "engine/rules/mPlay.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cPlate.h"
-#include "engine/state/cTrans.h"
 #include "support/Script.h"
 #include "tools/mChecks.h"
 
@@ -27,8 +13,7 @@ constexpr const char* AllButOne = "G0 AH-KH; G1 AS-KS; G2 AD-KD; G3 AC-QC; H0 KC
 
 void Lay(const TestGame& game, const char* table, int autoplay) {
     gData->Set(Setting::Autoplay, autoplay);
-    mPosition::Begin(game);
-    mScript::Lay(table);
+    mScript::Begin(game, table);
 }
 
 void WinByDrag() {
@@ -193,24 +178,6 @@ TEST(Winning, LeadsToADealThatWasAskedForOverItsDialog) {
         EXPECT_EQ(gData->Figures.CurGName, "Yukon");
         EXPECT_EQ(gData->Figures.CurGNo, GameNumber("0007"));
         ExpectFreshDeal();
-    }
-}
-
-TEST(CardsToWin, IsWhatTheFoundationsHold) {
-    const std::tuple<GameType, int, int, int> rows[] = {
-        // kind, foundations, deck, cards to win
-        {GameType::Plain, 4, 52, 52},       {GameType::Plain, 4, 104, 52},
-        {GameType::Plain, 2, 26, 26},       {GameType::CompleteRuns, 1, 104, 104},
-        {GameType::LimitedRuns, 2, 52, 26},
-    };
-    const Engine engine;
-    for (const auto& [kind, foundations, deck, cards] : rows) {
-        TestGame game;
-        game.Ext.GameType = kind;
-        game.Ext.Cards = deck;
-        game.Goal.Piles = foundations;
-        mPosition::Begin(game);
-        EXPECT_EQ(mGen::CardsToWin(), cards);
     }
 }
 

@@ -2,16 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <stdexcept>
-#include <string>
-#include <tuple>
-#include <vector>
 
-#include <gtest/gtest.h>
-
-#include "engine/rules/mFunc.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cTrans.h"
 #include "engine/state/mRandom.h"
 #include "support/Script.h"
 
@@ -78,8 +69,7 @@ using MoveCard = RulesTest;
 // Undo and repositioning open nothing and are not logged; repositioning leaves the tops alone.
 TEST_F(MoveCard, SilentMoves) {
     for (const tMod kind : {tMod::UndoRedo, tMod::Reposition}) {
-        mPosition::Begin({});
-        mScript::Lay("H0 (9D) 5C");
+        mScript::Begin({}, "H0 (9D) 5C");
         gArray->MoveCard(Card("5C"), Home, 2, 0, kind);
         EXPECT_EQ(mFunc::CardFaceMode(Card("9D")), 1);
         EXPECT_EQ(gTrans->MaxTrans(), 0);
@@ -104,8 +94,7 @@ private:
 
 // Only the first card of a group travels, and the card turns when it arrives.
 TEST_F(MoveCard, TravelsInSteps) {
-    mPosition::Begin({});
-    mScript::Lay("H0 (9D); H2 KH (5C) 4D");
+    mScript::Begin({}, "H0 (9D); H2 KH (5C) 4D");
     WatchingStage stage(Card("5C"));
     PicBack.SetStage(&stage);
     gArray->MoveCard(Card("5C"), Home, 0, 1, tMod::Play, 5, 1);
@@ -125,8 +114,7 @@ TEST_F(MoveCard, AutoplayFollowsPlayedMovesOnly) {
         {tMod::Reposition, false, false},
     };
     for (const auto& [kind, disabled, follows] : rows) {
-        mPosition::Begin({});
-        mScript::Lay("H0 5C AS; H1 9H");
+        mScript::Begin({}, "H0 5C AS; H1 9H");
         gArray->MoveCard(Card("9H"), Home, 2, 0, kind, 0, 0, 0, disabled);
         EXPECT_EQ(gArray->GetTop(Goal, 0), follows ? 0 : -1) << Number(kind);
     }
@@ -134,16 +122,14 @@ TEST_F(MoveCard, AutoplayFollowsPlayedMovesOnly) {
 
 // Whatever the rule for building would say of the next card.
 TEST_F(MoveCard, AFoundationOfThirteenIsFull) {
-    mPosition::Begin({});
-    mScript::Lay("G0 AS-KS; H0 AC");
+    mScript::Begin({}, "G0 AS-KS; H0 AC");
     gArray->MoveCard(Card("AC"), Goal, 0, RankCount, tMod::Play);
     EXPECT_EQ(gArray->GetTop(Goal, 0), FullGoalTop);
     EXPECT_EQ(mPosition::Pile(Home, 0), "AC");
 }
 
 TEST_F(MoveCard, ReduceOneTakesTheTopCardOffTheTablesAlone) {
-    mPosition::Begin({});
-    mScript::Lay("H0 5C 4H");
+    mScript::Begin({}, "H0 5C 4H");
     const int four = Card("4H");
     const CardRecord before = PicBack.PicCards(four);
     gArray->ReduceOne(Home, 0);

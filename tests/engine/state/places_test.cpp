@@ -1,11 +1,4 @@
 // Where a card lies on the plate: every way in which piles lie and fan, and what shifts a card.
-#include <string>
-#include <tuple>
-
-#include <gtest/gtest.h>
-
-#include "engine/state/cGames.h"
-#include "engine/state/codes.h"
 #include "engine/state/mRandom.h"
 #include "support/Script.h"
 
@@ -93,8 +86,7 @@ TEST_F(Places, AboveClosedCards) {
     };
     for (const auto& [order, Cell, place] : rows) {
         game_.Home.PileOrder = game_.Res.PileOrder = order;
-        mPosition::Begin(game_);
-        mScript::Lay("H0 (2C) (3C) (4C); H1 (9D) (8D) 7D");
+        mScript::Begin(game_, "H0 (2C) (3C) (4C); H1 (9D) (8D) 7D");
         EXPECT_EQ(At(Cell, 1, 4), place) << Number(order);
     }
 }

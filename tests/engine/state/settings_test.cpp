@@ -1,17 +1,10 @@
 // Settings: defaults, what a damaged store gives, players, the recent list.
 #include <stdexcept>
-#include <string>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "engine/commands/mLoad.h"
-#include "engine/commands/mMain.h"
 #include "engine/commands/mSelect.h"
 #include "engine/records/mPlayers.h"
-#include "engine/state/cData.h"
-#include "support/Fixture.h"
+#include "support/EngineTest.h"
 
 namespace {
 
@@ -20,15 +13,6 @@ protected:
     std::string& Stored(const std::string& key) { return engine_.Layer.Settings.Values[key]; }
     Engine engine_;
 };
-
-TEST_F(Settings, TheLastGameIsOneOfTheCatalogue) {
-    EXPECT_EQ(gData->LastGName(), "Baker's Dozen");
-    gData->SetCurGName("Spider");
-    EXPECT_EQ(Stored("Data/LastGName"), "Spider");
-    EXPECT_EQ(gData->LastGName(), "Spider");
-    Stored("Data/LastGName") = "A game of another version";
-    EXPECT_EQ(gData->LastGName(), "Baker's Dozen");
-}
 
 TEST_F(Settings, Players) {
     EXPECT_EQ(gData->TotalPlayers(), 1);

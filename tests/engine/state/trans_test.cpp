@@ -1,21 +1,11 @@
 // The log: groups, speeds and sounds, length, the rows of the history.
 #include <stdexcept>
-#include <string>
-#include <vector>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "engine/commands/mMain.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cTrans.h"
 #include "support/Script.h"
 
 namespace {
 
 using mPosition::Card;
-using testing::ElementsAre;
 
 class TransactionLog : public RulesTest {
 protected:
@@ -23,31 +13,6 @@ protected:
         gArray->MoveCard(Card(card), Cell, Pile, gArray->GetTop(Cell, Pile) + 1, tMod::Play, 0);
     }
 };
-
-TEST_F(TransactionLog, AGroupIsOneStep) {
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "2C 3C 4C 5C 6C");
-    Move("6C", Home, 1);
-    gTrans->StartMulti();
-    Move("5C", Home, 2);
-    gTrans->StartMulti();
-    Move("4C", Home, 2);
-    gTrans->EndMulti();
-    Move("3C", Home, 2);
-    gTrans->EndMulti();
-    Move("2C", Home, 2);
-    std::string marks;
-    for (int i = 1; i <= 5; ++i) marks += std::to_string(gTrans->Record(i).Multi);
-    EXPECT_EQ(marks, "01100");
-    gTrans->Undo(0);
-    EXPECT_EQ(gTrans->GetTransID(), 4);
-    gTrans->Undo(0);
-    EXPECT_EQ(gTrans->GetTransID(), 1);
-    EXPECT_EQ(mPosition::Pile(Home, 0), "2C 3C 4C 5C");
-    gTrans->Redo(0);
-    EXPECT_EQ(gTrans->GetTransID(), 4);
-    EXPECT_EQ(mPosition::Pile(Home, 2), "5C 4C 3C");
-}
 
 // In a group only the record that moves first has the caller's speed; the others make one step.
 TEST_F(TransactionLog, SpeedAndSound) {
@@ -63,8 +28,7 @@ TEST_F(TransactionLog, SpeedAndSound) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(std::to_string(row.Cards) + " cards, speed " + std::to_string(row.Speed));
-        mPosition::Begin({});
-        mPosition::Lay(Home, 0, "2C 3C 4C");
+        mScript::Begin({}, "H0 2C 3C 4C");
         const char* cards[] = {"4C", "3C", "2C"};
         if (row.Cards > 1) gTrans->StartMulti();
         for (int i = 0; i < row.Cards; ++i) Move(cards[i], Home, 1);
@@ -95,8 +59,7 @@ TEST_F(TransactionLog, ACommandTakesThreeSecondsAtMost) {
         stage.Waited = 0;
         stage.Begun = 0;
     };
-    mPosition::Begin({});
-    mPosition::Lay(Home, 0, "2C-6C");
+    mScript::Begin({}, "H0 2C-6C");
     for (int i = 0; i < 30; ++i) Move("6C", Home, 1 + i % 3);
     gTrans->StartMulti();
     for (const char* card : {"5C", "4C", "3C"}) Move(card, Home, 3);
@@ -129,8 +92,7 @@ TEST_F(TransactionLog, ACommandTakesThreeSecondsAtMost) {
 
 // A game that wanders on for long loses nothing of its log; the shown count stops at 16 bits.
 TEST_F(TransactionLog, FortyThousandRecords) {
-    mPosition::Begin({});
-    mScript::Lay("H0 2C 3C");
+    mScript::Begin({}, "H0 2C 3C");
     constexpr int Records = 40000;
     for (int i = 0; i < Records; ++i) Move("3C", Home, 1 + i % 3);
     EXPECT_EQ(gTrans->GetTransID(), Records);
@@ -145,8 +107,7 @@ TEST_F(TransactionLog, FortyThousandRecords) {
 
 TEST_F(TransactionLog, HistoryRows) {
     game_.Res.Piles = 2;
-    mPosition::Begin(game_);
-    mScript::Lay("H0 2C KH QS; S (5C); G3 AD");
+    mScript::Begin(game_, "H0 2C KH QS; S (5C); G3 AD");
     gArray->MoveCard(Card("KH"), Home, 2, 0, tMod::Play, 0, 1);
     gArray->AddtoWaste(Card("5C"));
     Move("AD", Res, 1);

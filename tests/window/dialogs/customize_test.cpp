@@ -1,21 +1,7 @@
 // The dialog "Customize": what acts at once, what waits for OK, what its previews show.
 #include <map>
-#include <string>
-#include <utility>
-
-#include <gtest/gtest.h>
-
-#include <QAbstractButton>
-#include <QColorDialog>
-#include <QComboBox>
-#include <QImage>
-#include <QSlider>
-#include <QTabWidget>
-#include <QTreeWidget>
 
 #include "Art.h"
-#include "engine/records/cScore.h"
-#include "engine/state/cPlate.h"
 #include "engine/state/mAssets.h"
 #include "window/DialogTest.h"
 #include "window/dialogs/frmCustomize.h"

@@ -1,41 +1,8 @@
 // The dialogs as the player meets them: what they show, what keys and clicks do, what they start.
-#include <array>
 #include <set>
-#include <string>
-#include <tuple>
-#include <vector>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <QAbstractItemModel>
-#include <QComboBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
-#include <QPixmap>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTableView>
-#include <QToolButton>
-#include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
-#include <QtTest/QTest>
-
-#include "engine/commands/mGen.h"
-#include "engine/commands/mLoad.h"
-#include "engine/commands/mMain.h"
 #include "engine/commands/mSelect.h"
-#include "engine/outside/memorylayer.h"
-#include "engine/records/cScore.h"
 #include "engine/rules/mPlay.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cGames.h"
-#include "engine/state/cPlate.h"
-#include "engine/state/cTrans.h"
 #include "window/DialogTest.h"
 #include "window/controls/GameTree.h"
 #include "window/dialogs/frmChoose.h"
@@ -43,10 +10,6 @@
 #include "window/dialogs/frmSelect.h"
 #include "window/records/frmFinish.h"
 #include "window/table/ProgramLayer.h"
-
-using testing::ElementsAre;
-using testing::ElementsAreArray;
-using testing::IsEmpty;
 
 namespace {
 
@@ -94,12 +57,7 @@ TEST_F(Dialogs, PreviewsOfAllGamesLeaveTheRunningGameAlone) {
     mMain::MouseDown(gArray->GetTopPicID(Stock), 5, 5);
     layer_.Calendar.Advance(7);
     mMain::TickTime();
-    const cGames games = *gGames;
-    const cArray array = *gArray;
-    const cTrans trans = *gTrans;
-    const cPlate plate = PicBack;
-    const SessionFigures figures = gData->Figures;
-    const std::array<int, 2> counters{gRedealCount, gGoalBase};
+    const RunningGame before = gRunning;
     const auto settings = layer_.Settings.Values;
 
     frmSelect dialog;
@@ -114,13 +72,12 @@ TEST_F(Dialogs, PreviewsOfAllGamesLeaveTheRunningGameAlone) {
         pictures.insert(last = picture.cacheKey());
     }
     EXPECT_EQ(pictures.size(), static_cast<std::size_t>(gData->TotalGames()));
-    EXPECT_TRUE(*gGames == games);
-    EXPECT_TRUE(*gArray == array);
-    EXPECT_TRUE(*gTrans == trans);
-    EXPECT_TRUE(PicBack == plate);
-    EXPECT_EQ((std::array<int, 2>{gRedealCount, gGoalBase}), counters);
-    EXPECT_TRUE(gData->Figures.GameRunning && gData->Figures.GameStart == figures.GameStart &&
-                gData->Figures.CurMoves == figures.CurMoves && gData->Figures.CurTime == figures.CurTime);
+    EXPECT_TRUE(gRunning.Games == before.Games && gRunning.Array == before.Array &&
+                gRunning.Trans == before.Trans && gRunning.Plate == before.Plate);
+    EXPECT_EQ(std::tuple(gRedealCount, gGoalBase), std::tuple(before.RedealCount, before.GoalBase));
+    EXPECT_TRUE(gData->Figures.GameRunning && gData->Figures.GameStart == before.Figures.GameStart &&
+                gData->Figures.CurMoves == before.Figures.CurMoves &&
+                gData->Figures.CurTime == before.Figures.CurTime);
     EXPECT_EQ(layer_.Settings.Values, settings);
     // A root keeps the last game in sight.
     tree->setCurrentItem(tree->topLevelItem(0));
@@ -254,13 +211,6 @@ TEST_F(Dialogs, ANameWithABlankIsTypedInTheBoxOfGames) {
     QTest::keyClicks(games, QStringLiteral("baker's dozen p"));
     EXPECT_EQ(games->currentText(), QStringLiteral("Baker's Dozen Plus"));
     EXPECT_FALSE(games->view()->isVisible());
-
-    auto* number = Find<QLineEdit>(dialog, "Text1");
-    EXPECT_EQ(Text(dialog, "lblFault"), "");
-    number->setText(QStringLiteral("12x"));
-    EXPECT_NE(Text(dialog, "lblFault"), "");
-    number->setText(QStringLiteral("12"));
-    EXPECT_EQ(Text(dialog, "lblFault"), "");
 }
 
 TEST_F(Dialogs, NumbersAreTakenInsideTheRangeOnly) {
@@ -288,7 +238,9 @@ TEST_F(Dialogs, NumbersAreTakenInsideTheRangeOnly) {
         frmChoose dialog;
         Open(dialog);
         auto* number = Find<QLineEdit>(dialog, "Text1");
+        EXPECT_EQ(Text(dialog, "lblFault"), "") << "nothing has been typed yet";
         number->setText(QLatin1String(typed));
+        EXPECT_EQ(Text(dialog, "lblFault").empty(), largest == nullptr);
         QTest::keyClick(number, Qt::Key_Return);
         EXPECT_EQ(gData->Figures.GameRunning, largest == nullptr);
         EXPECT_EQ(dialog.isVisible(), largest != nullptr);

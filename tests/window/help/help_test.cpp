@@ -1,13 +1,5 @@
 // The help windows: rules, contents, search, links; and what "About" tells.
-#include <gtest/gtest.h>
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QTextBrowser>
-#include <QTreeWidget>
-
 #include "engine/help/mHelpPages.h"
-#include "engine/state/cData.h"
 #include "window/DialogTest.h"
 #include "window/dialogs/frmAbout.h"
 #include "window/help/ProgramHelp.h"

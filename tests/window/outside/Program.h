@@ -1,7 +1,6 @@
 // The program without its windows: the engine over the files and the settings of the machine.
 #pragma once
 
-#include <cstdlib>
 #include <string>
 #include <vector>
 
@@ -12,11 +11,6 @@
 #include "engine/records/cScore.h"
 #include "engine/state/cData.h"
 #include "window/outside/QtSettings.h"
-
-inline int FromEnvironment(const char* name, int usual) {
-    const char* text = std::getenv(name);
-    return text ? std::atoi(text) : usual;
-}
 
 /// Files and settings are real, the rest is in memory; every question is answered with Yes. Only one can live
 /// at a time in a process.
@@ -32,7 +26,10 @@ public:
         mGen::InitApp();
         gData->Figures.CurGName = "Klondike";
     }
-    ~Program() { mLoad::UnloadMain(); }
+    ~Program() {
+        outside_.Forms.Answer = false;  // nothing is tried again and again
+        mLoad::UnloadMain();
+    }
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 

@@ -14,8 +14,6 @@
 #include <vector>
 
 #include <fcntl.h>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -25,10 +23,9 @@
 #include "engine/records/mPlayers.h"
 #include "engine/records/mStrayFiles.h"
 #include "support/Child.h"
+#include "support/Expect.h"
+#include "support/FromEnvironment.h"
 #include "window/outside/Program.h"
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

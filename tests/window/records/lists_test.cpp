@@ -1,32 +1,13 @@
 // What every list of records offers: sorting by its headings, copying, and playing a deal again.
 #include <map>
-#include <string>
-#include <vector>
 
-#include <gmock/gmock.h>
-
-#include <QAction>
-#include <QClipboard>
-#include <QComboBox>
-#include <QContextMenuEvent>
-#include <QHeaderView>
-#include <QMenu>
-#include <QScreen>
-#include <QTableView>
-#include <QTreeView>
-
-#include "engine/records/cScore.h"
 #include "engine/records/mFavourites.h"
-#include "engine/state/cData.h"
 #include "window/DialogTest.h"
 #include "window/records/frmFinish.h"
 #include "window/records/frmGameStat.h"
 #include "window/records/frmHighScore.h"
 #include "window/records/frmLogStat.h"
 #include "window/records/frmOrgFav.h"
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
@@ -41,15 +22,6 @@ protected:
         Add("Player1", R"("2004-01-01 08:00:00","Yukon",9,36000,120,-80,0)");
         Add("ann", R"("2003-12-01 10:00:00","No such game","0004",35999,8,7,1)");
     }
-    void Add(const std::string& player, const std::string& line) {
-        layer_.Files.Contents[cScore::FileName(player)] += line + "\r\n";
-    }
-    [[nodiscard]] static Texts Column(const QAbstractItemView* view, int column) {
-        Texts texts;
-        for (int row = 0; row < view->model()->rowCount(); ++row)
-            texts.push_back(view->model()->index(row, column).data().toString().toStdString());
-        return texts;
-    }
     static void ClickHeading(const QHeaderView* headings, int column) {
         const QPoint place(headings->sectionViewportPosition(column) + 5, headings->height() / 2);
         QTest::mouseClick(headings->viewport(), Qt::LeftButton, Qt::NoModifier, place);
@@ -61,7 +33,7 @@ protected:
         QApplication::sendEvent(view, &event);
         return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     }
-    static void Choose(QAbstractItemView* view, const char* action) {
+    static void ChooseEntry(QAbstractItemView* view, const char* action) {
         QMenu* menu = Menu(view);
         ASSERT_TRUE(menu);
         QAction* chosen = nullptr;
@@ -100,22 +72,22 @@ TEST_F(Lists, SortByAClickUpDownAndBack) {
     for (int column = 0; column < log->model()->columnCount(); ++column) {
         const auto& [up, down] = orders[column];
         ClickHeading(log->horizontalHeader(), column);
-        EXPECT_EQ(Column(log, 7), up) << column;
+        EXPECT_EQ(Rows(log, 7), up) << column;
         EXPECT_THAT(heading(column), testing::EndsWith(", ascending, sorted"));
         ClickHeading(log->horizontalHeader(), column);
-        EXPECT_EQ(Column(log, 7), down) << column;
+        EXPECT_EQ(Rows(log, 7), down) << column;
         EXPECT_THAT(layer_.Forms.Heard.back(), testing::EndsWith(", descending"));
         const QModelIndexList selected = log->selectionModel()->selectedRows(7);
         ASSERT_EQ(selected.size(), 1);
         EXPECT_EQ(selected[0].data().toString(), QStringLiteral("9")) << "what is selected stays so";
         ClickHeading(log->horizontalHeader(), column);
-        EXPECT_EQ(Column(log, 7), came) << column;
+        EXPECT_EQ(Rows(log, 7), came) << column;
         EXPECT_EQ(heading(column), "");
     }
     // What a choice brings is sorted, too.
     ClickHeading(log->horizontalHeader(), 5);
-    Find<QComboBox>(dialog, "imcPlayer")->setCurrentText(QStringLiteral("Player1"));
-    EXPECT_EQ(Column(log, 7), (Texts{"10", "9"}));
+    Choose(dialog, "imcPlayer", "Player1");
+    EXPECT_EQ(Rows(log, 7), (Texts{"10", "9"}));
 }
 
 TEST_F(Lists, SortByTheMenuAndFromEveryOrder) {
@@ -123,7 +95,7 @@ TEST_F(Lists, SortByTheMenuAndFromEveryOrder) {
     Open(dialog);
     Find<QTabWidget>(dialog, "SSTab1")->setCurrentIndex(1);
     auto* games = Find<QTableView>(dialog, "lvGames");
-    const Texts came = Column(games, 0);
+    const Texts came = Rows(games, 0);
     const auto sortBy = [&](const char* choice) {
         games->setFocus();
         QTest::keyClick(games, Qt::Key_F10, Qt::ShiftModifier);
@@ -135,14 +107,14 @@ TEST_F(Lists, SortByTheMenuAndFromEveryOrder) {
         menu->close();
     };
     sortBy("Score");
-    EXPECT_EQ(Column(games, 6).front(), "-80");
+    EXPECT_EQ(Rows(games, 6).front(), "-80");
     sortBy("&Descending");
-    EXPECT_EQ(Column(games, 6).front(), "50");
-    EXPECT_EQ(Column(games, 6).back(), "-80");
-    Find<QComboBox>(dialog, "cmGames")->setCurrentText(QStringLiteral("Yukon"));
+    EXPECT_EQ(Rows(games, 6).front(), "50");
+    EXPECT_EQ(Rows(games, 6).back(), "-80");
+    Choose(dialog, "cmGames", "Yukon");
     EXPECT_EQ(games->currentIndex().row(), games->model()->rowCount() - 1) << "where it is shown now";
     sortBy("&Usual Order");
-    EXPECT_EQ(Column(games, 0), came);
+    EXPECT_EQ(Rows(games, 0), came);
 }
 
 TEST_F(Lists, CopyWhatIsSelectedAsItIsShown) {
@@ -162,7 +134,7 @@ TEST_F(Lists, CopyWhatIsSelectedAsItIsShown) {
     Open(statistics);
     auto* general = Find<QTreeView>(statistics, "lvGeneral");
     general->setCurrentIndex(general->model()->index(0, 0));
-    Choose(general, "mnuCopy");
+    ChooseEntry(general, "mnuCopy");
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Games Played : 3\n"));
 }
 
@@ -178,15 +150,15 @@ TEST_F(Lists, PlayADealAgainAndKeepIt) {
         EXPECT_FALSE(Find<QAction>(dialog, action)->isEnabled()) << "a game that is not there";
     menu->close();
     ClickRow(log, log->model()->index(1, 0));
-    Choose(log, "mnuAddFavorite");
+    ChooseEntry(log, "mnuAddFavorite");
     mFavourites::Open();
     EXPECT_THAT(mFavourites::Numbers("Yukon"), ElementsAre("9"));
-    Choose(log, "mnuPlayDeal");
+    ChooseEntry(log, "mnuPlayDeal");
     EXPECT_EQ(layer_.Forms.Questions.size(), 1U);
     EXPECT_EQ(gData->Figures.CurGName, "Canfield") << "the answer was No";
     EXPECT_TRUE(dialog.isVisible());
     layer_.Forms.Answer = true;
-    Choose(log, "mnuPlayDeal");
+    ChooseEntry(log, "mnuPlayDeal");
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_TRUE(gData->Figures.GameRunning && gData->Figures.CurGName == "Yukon");
     EXPECT_EQ(gData->Figures.CurGNo, GameNumber("9"));
@@ -200,7 +172,7 @@ TEST_F(Lists, ADealPlayedOverAnotherDialogClosesBoth) {
         auto* list = Find<QTableView>(scores, "lvGames");  // its games are those of the choice above
         Find<QTabWidget>(scores, "SSTab1")->setCurrentIndex(1);
         list->selectRow(0);
-        Choose(list, "mnuPlayDeal");
+        ChooseEntry(list, "mnuPlayDeal");
     });
     Click(finish, "Highscore");
     EXPECT_FALSE(finish.isVisible());
@@ -216,7 +188,7 @@ TEST_F(Lists, ADealPlayedOverAnotherDialogClosesBoth) {
     auto* list = Find<QTreeView>(favourites, "lvFav");
     list->setCurrentIndex(list->model()->index(0, 0));
     layer_.Forms.Answer = true;
-    Choose(list, "mnuPlayDeal");
+    ChooseEntry(list, "mnuPlayDeal");
     EXPECT_EQ(gData->Figures.CurGNo, GameNumber("77"));
 }
 
@@ -251,7 +223,7 @@ TEST_F(Lists, SizeWidthsAndSortingAreRemembered) {
         const auto* log = Find<QTableView>(dialog, "lvLog");
         EXPECT_EQ(dialog.size(), size);
         EXPECT_EQ(log->columnWidth(2), 333);
-        EXPECT_EQ(Column(log, 3), (Texts{"50", "7", "-80"}));
+        EXPECT_EQ(Rows(log, 3), (Texts{"50", "7", "-80"}));
         Find<QAction>(dialog, "mnuUsualWidths")->trigger();
         EXPECT_NE(log->columnWidth(2), 333);
         ClickHeading(log->horizontalHeader(), 3);
@@ -268,7 +240,7 @@ TEST_F(Lists, SizeWidthsAndSortingAreRemembered) {
             layer_.Settings.Values[std::string("Dialogs/frmLogStat.") + key] = text;
         frmLogStat dialog;
         const auto* log = Find<QTableView>(dialog, "lvLog");
-        EXPECT_EQ(Column(log, 7), (Texts{"10", "9", "0004"})) << text;
+        EXPECT_EQ(Rows(log, 7), (Texts{"10", "9", "0004"})) << text;
         std::vector<int> widths;
         for (int column = 0; column < 8; ++column) widths.push_back(log->columnWidth(column));
         if (own.empty()) own = widths;

@@ -1,27 +1,8 @@
 // "More Statistics": its choices, lists and charts, what it exports, and records that come in.
-#include <string>
-#include <vector>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <QComboBox>
-#include <QFileDialog>
-#include <QLabel>
-#include <QTabWidget>
-#include <QTableView>
-#include <QTemporaryFile>
-#include <QTreeView>
-
-#include "engine/records/cScore.h"
 #include "window/DialogTest.h"
 #include "window/records/ChartView.h"
 #include "window/records/frmGameStat.h"
 #include "window/records/frmMoreStat.h"
-
-using testing::Contains;
-using testing::ElementsAre;
-using testing::StartsWith;
 
 namespace {
 
@@ -30,8 +11,8 @@ protected:
     void SetUp() override {
         DialogTest::SetUp();
         gData->SetPlayer(2, "Zoë", false);
-        layer_.Files.Contents[cScore::FileName("Player1")] = std::string(Won) + "\r\n";
-        layer_.Files.Contents[cScore::FileName("Zoë")] = "\"2004-01-01 09:00:00\",\"Yukon\",2,60,5,0,0\r\n";
+        Add("Player1", Won);
+        Add("Zoë", R"("2004-01-01 09:00:00","Yukon",2,60,5,0,0)");
     }
     static constexpr const char* Won = "\"2004-01-01 10:00:00\",\"Klondike\",1,61,5,7,1";
 };

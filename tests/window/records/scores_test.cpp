@@ -1,25 +1,8 @@
 // The high scores and the log as the player meets them.
-#include <string>
-#include <tuple>
-#include <vector>
-
-#include <gmock/gmock.h>
-
-#include <QBrush>
-#include <QComboBox>
-#include <QFont>
-#include <QHeaderView>
-#include <QTableView>
-
-#include "engine/records/cScore.h"
-#include "engine/state/cData.h"
 #include "window/DialogTest.h"
 #include "window/records/LoadedScores.h"
-#include "window/records/frmFinish.h"
 #include "window/records/frmHighScore.h"
 #include "window/records/frmLogStat.h"
-
-using testing::ElementsAre;
 
 namespace {
 
@@ -34,20 +17,14 @@ protected:
         Add("Ann", R"("2004-01-01 09:00:00","Yukon",3,70,90,-5,1)");
         Add("Ann", R"("2003-12-01 10:00:00","Klondike","0004",3671,8,70,1)");
     }
-    void Add(const std::string& player, const std::string& line) {
-        layer_.Files.Contents[cScore::FileName(player)] += line + "\r\n";
-    }
     [[nodiscard]] static std::vector<std::string> Column(const QWidget& dialog, const char* list,
                                                          const char* heading) {
         const QAbstractItemModel* model = Find<QTableView>(dialog, list)->model();
-        std::vector<std::string> cells;
         for (int column = 0; column < model->columnCount(); ++column) {
             if (model->headerData(column, Qt::Horizontal).toString() != QLatin1String(heading)) continue;
-            for (int row = 0; row < model->rowCount(); ++row) {
-                cells.push_back(model->index(row, column).data().toString().toStdString());
-            }
+            return Rows(Find<QTableView>(dialog, list), column);
         }
-        return cells;
+        return {"no column " + std::string(heading)};
     }
     /// The heading of the column whose cells stand out.
     [[nodiscard]] static std::string Marked(const QWidget& dialog, const char* list) {
@@ -60,12 +37,6 @@ protected:
             EXPECT_EQ(cell.data(Qt::ForegroundRole).value<QBrush>().color(), QColor(128, 0, 0));
         }
         return marked;
-    }
-    static void Choose(const QWidget& dialog, const char* combo, const char* text) {
-        auto* choice = Find<QComboBox>(dialog, combo);
-        const int item = choice->findText(QString::fromUtf8(text));
-        ASSERT_GE(item, 0) << text;
-        choice->setCurrentIndex(item);
     }
 };
 
@@ -117,18 +88,6 @@ TEST_F(ScoreDialogs, TheLogShowsWhatItsThreeChoicesKeep) {
         Choose(dialog, "imcDate", date);
         EXPECT_EQ(Column(dialog, "lvLog", "Game Number"), numbers);
     }
-}
-
-TEST_F(ScoreDialogs, ANewRecordShowsFromTheEndOfItsGame) {
-    mGen::StartGame("Yukon", 5.0);
-    gData->Figures.CurScore = 999;
-    mGen::CloseGame(1);
-    frmFinish finish({});
-    Open(finish);
-    OnModal([](const QWidget& view) { EXPECT_EQ(Column(view, "lvTop", "Score").at(0), "999"); });
-    Click(finish, "Highscore");
-    EXPECT_TRUE(finish.isVisible());
-    EXPECT_EQ(gScore->ScoreTop(), 0) << "the store is closed with its view";
 }
 
 TEST_F(ScoreDialogs, ColumnsHaveRoomForHeadingsAndValuesInAnyFont) {

@@ -1,11 +1,4 @@
 // The main window as assistive programs see it.
-#include <gtest/gtest.h>
-
-#include <QAccessible>
-
-#include "engine/commands/mGen.h"
-#include "engine/state/cData.h"
-#include "engine/state/cPlate.h"
 #include "window/MainWindowTest.h"
 #include "window/table/KelCard.h"
 

@@ -1,17 +1,5 @@
 // The keyboard on the table, through Qt's own events.
-#include <gtest/gtest.h>
-
-#include <QAccessible>
-#include <QAction>
-#include <QShortcut>
-#include <QTest>
-
-#include "engine/commands/mGen.h"
 #include "engine/commands/mKeys.h"
-#include "engine/commands/mMain.h"
-#include "engine/rules/mFunc.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
 #include "window/MainWindowTest.h"
 
 namespace {
@@ -89,6 +77,11 @@ TEST_F(TableKeysTest, ACardInTheHandOfTheKeysIsNotTheMouses) {
     EXPECT_TRUE(window_->isFullScreen());
     Press(Qt::Key_Escape);
     EXPECT_FALSE(window_->isFullScreen());
+    for (const bool full : {true, false}) {
+        Press(Qt::Key_F11);
+        EXPECT_EQ(window_->isFullScreen(), full);
+        EXPECT_EQ(Entry("fullScreen")->isChecked(), full);
+    }
     Press(Qt::Key_Space);
     EXPECT_EQ(mMain::InHand(), mMain::Hand::Keys);
     QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, IndexOf(top));

@@ -1,27 +1,8 @@
 // The main window through Qt's own events: dragging with real mouse events, commands' states, closing.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <cstdio>
-#include <functional>
 
-#include <QLabel>
-#include <QMenuBar>
-#include <QTest>
-#include <QTimer>
-#include <QToolBar>
-
-#include "engine/commands/mGen.h"
-#include "engine/commands/mMain.h"
 #include "engine/records/cScore.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cGames.h"
-#include "engine/state/cTrans.h"
 #include "window/MainWindowTest.h"
-
-using testing::HasSubstr;
-using testing::Not;
 
 namespace {
 
@@ -55,18 +36,6 @@ TEST_F(MainWindow, ADragPlaysACardAndARefusedOneGoesBack) {
     QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, IndexOf(target));
     EXPECT_EQ(gArray->GetTopPicID(Home, 6), FittingCard);
     EXPECT_EQ(gTrans->GetTransID(), moves + 1);
-}
-
-TEST_F(MainWindow, ADragThatEndsOutsideTheWindowReturns) {
-    DealOne();
-    const auto start = PlaceOf(FittingCard);
-    const QPoint outside(-400, -300);
-    QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, IndexOf(FittingCard));
-    MoveMouse(outside, Qt::LeftButton);
-    EXPECT_NE(PlaceOf(FittingCard), start);
-    QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, outside);
-    EXPECT_EQ(PlaceOf(FittingCard), start);
-    EXPECT_FALSE(gDrag.gPicked);
 }
 
 TEST_F(MainWindow, AKeyOrAPressShowsTheRestOfADealAtOnce) {
@@ -218,14 +187,6 @@ TEST_F(MainWindow, AnIdleTickChangesNoWidget) {
         return counter.Count == 0;
     };
     EXPECT_TRUE(QTest::qWaitFor(idle, 20000));
-}
-
-TEST_F(MainWindow, ClosingTheWindowRecordsARunningGameAsLost) {
-    mGen::StartGame("Klondike", 1.0);
-    window_->close();
-    EXPECT_EQ(gData, nullptr);
-    const std::string& file = memory_.Files.Contents["/data/Kelmor/Tarnival 2004 11.0/Player1.sre"];
-    EXPECT_EQ(file, "\"2004-01-01 00:00:00\",\"Klondike\",1,0,0,0,0\r\n");
 }
 
 // The menu's "E&xit" ends a copy of this process.

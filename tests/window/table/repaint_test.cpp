@@ -1,12 +1,4 @@
 // A repaint of a part of the table shows what a repaint of the whole would show there.
-#include <gtest/gtest.h>
-
-#include <QImage>
-#include <QPixmap>
-#include <QScreen>
-
-#include "engine/commands/mGen.h"
-#include "engine/state/cData.h"
 #include "window/MainWindowTest.h"
 
 namespace {

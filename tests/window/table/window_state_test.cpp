@@ -1,11 +1,5 @@
 // What the main window remembers from one run to the next, and what it makes of nonsense.
-#include <gtest/gtest.h>
-
 #include <map>
-#include <string>
-#include <tuple>
-
-#include <QScreen>
 
 #include "window/MainWindowTest.h"
 #include "window/table/WindowState.h"

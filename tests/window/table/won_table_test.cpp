@@ -1,13 +1,5 @@
 // The picture of the table that a won game leaves: it is there when the cards are gone, and quiet where the
 // desktop wants quiet.
-#include <memory>
-
-#include <gtest/gtest.h>
-
-#include <QImage>
-#include <QProxyStyle>
-
-#include "engine/commands/mGen.h"
 #include "engine/rules/mCards.h"
 #include "window/MainWindowTest.h"
 #include "window/table/WonTable.h"

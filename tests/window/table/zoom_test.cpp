@@ -1,21 +1,8 @@
 // The table's size, fitting a game to the window, and the menu for it.
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <set>
-#include <utility>
 
-#include <QContextMenuEvent>
-#include <QMenu>
-#include <QTimer>
-#include <QWheelEvent>
-
-#include "engine/commands/mGen.h"
 #include "engine/commands/mRoom.h"
 #include "engine/commands/mZoom.h"
-#include "engine/state/cArray.h"
-#include "engine/state/cData.h"
-#include "engine/state/cGames.h"
 #include "window/MainWindowTest.h"
 #include "window/look/mTablePicture.h"
 
@@ -154,12 +141,15 @@ TEST_F(Zoom, AFittedGameKeepsPilesThatGrowInSight) {
     EXPECT_LT(grown, before);
 
     // A card in the hand may leave the window; the table keeps its size.
-    const QPoint grip = IndexOf(gArray->GetTopPicID(Home, 0));
+    const int held = gArray->GetTopPicID(Home, 0);
+    const auto place = PlaceOf(held);
+    const QPoint grip = IndexOf(held);
     QTest::mousePress(Viewport(), Qt::LeftButton, Qt::NoModifier, grip);
     MoveMouse(QPoint(-900, 2000), Qt::LeftButton);
     QTest::qWait(250);
     EXPECT_EQ(Seen(), grown);
     QTest::mouseRelease(Viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(-900, 2000));
+    EXPECT_EQ(PlaceOf(held), place) << "back in its pile";
 
     mGen::StartGame("Klondike", 2.0);
     EXPECT_EQ(Seen(), before);
@@ -269,17 +259,6 @@ TEST_F(Zoom, TheMenuComesWhereNoCardTakesThePress) {
     EXPECT_FALSE(MenuComes(stock));
     QTest::mouseRelease(Viewport(), Qt::RightButton, Qt::NoModifier, stock);
     EXPECT_FALSE(MenuComes(stock));
-}
-
-TEST_F(Zoom, FullScreenIsLeftByItsKeyAndByEscape) {
-    for (const auto leave : {Qt::Key_F11, Qt::Key_Escape}) {
-        QTest::keyClick(window_.get(), Qt::Key_F11);
-        EXPECT_TRUE(window_->isFullScreen());
-        EXPECT_TRUE(Entry("fullScreen")->isChecked());
-        QTest::keyClick(window_.get(), leave);
-        EXPECT_FALSE(window_->isFullScreen());
-        EXPECT_FALSE(Entry("fullScreen")->isChecked());
-    }
 }
 
 }  // namespace
