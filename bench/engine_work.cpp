@@ -19,7 +19,8 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: tarnival-engine-work deals|moves|pages N\n");
         return 2;
     }
-    const Engine engine;
+    Engine engine;
+    engine.Layer.Forms.Listening = false;  // as with most players
     long done = 0;
     if (work == "deals") {
         mGen::AsideGame aside;

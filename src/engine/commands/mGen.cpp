@@ -195,10 +195,11 @@ void Start(const std::string& name, const GameNumber& number, const std::vector<
         Deal(gameNumber, deck);
     }
     gData->Figures.GameRunning = true;
-    const mSpoken::Change change;
+    const std::optional<mSpoken::Change> change = mSpoken::Watch();
     mPlay::AutoPlayAll();
     gRedealCount = 0;
-    const std::string went = change.Text();
+    if (!change) return;
+    const std::string went = change->Text();
     mSpoken::Say(game + " dealt" + (went.empty() ? "" : ", " + went));
 }
 

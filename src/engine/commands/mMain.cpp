@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <utility>
 
 #include "engine/commands/mGen.h"
@@ -32,9 +33,10 @@ bool Running() { return gData->Figures.GameRunning; }
 // Tells who listens what the command does to the cards; `byHand` is the card that the player moves.
 template <typename Command>
 void Told(Command command, const char* lead = "", int byHand = -1) {
-    const mSpoken::Change change;
+    const std::optional<mSpoken::Change> change = mSpoken::Watch();
     command();
-    if (const std::string text = change.Text(byHand); !text.empty()) mSpoken::Say(lead + text);
+    if (!change) return;
+    if (const std::string text = change->Text(byHand); !text.empty()) mSpoken::Say(lead + text);
 }
 
 // The command as one action of the player, only while a game runs.

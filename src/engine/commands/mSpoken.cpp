@@ -64,7 +64,8 @@ std::string ToFoundations(const Group& cards) {
 }  // namespace
 
 void Say(const std::string& text) {
-    if (!text.empty()) gData->Layer().Forms.Announce(mRulesWords::Capital(text));
+    if (!text.empty() && gData->Layer().Forms.Listens())
+        gData->Layer().Forms.Announce(mRulesWords::Capital(text));
 }
 
 std::string Refusal(mFunc::LiftRefusal why) {
@@ -110,7 +111,11 @@ std::string Lifted(int PicID, int above) {
                        count == 0 ? "no pile takes it" : mRulesWords::List(groups) + verb);
 }
 
-// Made at every command, for a sentence that a player may never hear: it takes no more than it needs.
+std::optional<Change> Watch() {
+    if (!gData->Layer().Forms.Listens()) return {};
+    return Change();
+}
+
 Change::Change() : records_(gTrans->GetTransID()) {
     for (int PicID = 0; PicID < gGames->TotalCards(); ++PicID) {
         const CardRecord& card = PicBack.PicCards(PicID);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "engine/commands/mReader.h"
@@ -11,7 +12,7 @@
 
 namespace mSpoken {
 
-/// Says it where the outside has a voice. An empty text says nothing.
+/// Says it to who listens. An empty text says nothing.
 void Say(const std::string& text);
 
 /// Why the card cannot be lifted: "Covered by a card that does not follow".
@@ -40,5 +41,9 @@ private:
     std::array<Place, MaxCards> before_{};
     int records_;  ///< in the log of moves: while it has as many, nothing has moved
 };
+
+/// The table as it is now, for a sentence on what becomes of it; nothing where nobody listens, as a look at
+/// all cards for each move would take as long as the move.
+[[nodiscard]] std::optional<Change> Watch();
 
 }  // namespace mSpoken

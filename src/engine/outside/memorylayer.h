@@ -110,6 +110,7 @@ public:
     [[nodiscard]] std::optional<std::string> AskSaveFile(const std::string& name,
                                                          const std::string& filter) override;
     [[nodiscard]] bool ShowProgress(const std::string& task, int percent) override;
+    [[nodiscard]] bool Listens() const override { return Listening; }
     void Announce(const std::string& text) override { Heard.push_back(text); }
     void SetCaption(const std::string& caption) override { Caption = caption; }
     void ShowRecent(const std::vector<std::string>& names) override { Recent = names; }
@@ -119,6 +120,7 @@ public:
     void PaintBackground() override {}
 
     std::vector<std::string> Messages;
+    bool Listening = true;
     std::vector<std::string> Heard;
     std::vector<std::string> Questions;
     bool Answer = false;                      ///< to every question

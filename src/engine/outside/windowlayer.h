@@ -168,7 +168,9 @@ public:
     /// How far a long task is, 0 to 100 percent; 100 ends the display. False: the user cancels, and the
     /// display has ended.
     [[nodiscard]] virtual bool ShowProgress(const std::string& task, int percent) = 0;
-    /// Says a sentence to who listens to the program instead of looking at it; nothing where nobody does.
+    /// Whether anybody listens to the program instead of looking at it, now.
+    [[nodiscard]] virtual bool Listens() const { return false; }
+    /// Says a sentence to who listens.
     virtual void Announce(const std::string&) {}
     virtual void SetCaption(const std::string& caption) = 0;
     /// Five names, the most recent first; a free slot is empty.

@@ -1,6 +1,7 @@
 // The deal carried out on the table: each step of it a move, and the markers of the empty piles.
 #include "engine/rules/mCards.h"
 
+#include <span>
 #include <vector>
 
 #include "engine/rules/mFunc.h"
@@ -19,17 +20,19 @@ void ShowAt(MarkKind kind, int index, int Cell, int Pile, int picture) {
     PicBack.ShowMark(kind, index, picture, place.X, place.Y);
 }
 
+std::span<const CardRecord> GameCards() {
+    return PicBack.Cards().first(static_cast<std::size_t>(gGames->TotalCards()));
+}
+
 // The cards as the deal sees them.
 mDeal::Faces Faces() {
-    mDeal::Faces cards;
-    for (int c = 0; c < gGames->TotalCards(); ++c) cards.push_back(PicBack.PicCards(c));
-    return cards;
+    const auto cards = GameCards();
+    return {cards.begin(), cards.end()};
 }
 
 mDeal::Pack StockCards() {
-    mDeal::Pack stock;
-    for (int Pos = 0; Pos <= gArray->GetTop(Stock); ++Pos) stock.push_back(gArray->GetPicID(Stock, 0, Pos));
-    return stock;
+    const auto stock = gArray->Cards(Stock);
+    return {stock.begin(), stock.end()};
 }
 
 void Make(const mDeal::Step& step, int Speed) {
@@ -96,8 +99,8 @@ void DealMarkers() {
 void DealStock() {
     if (gGames->StockNum != StockNum::None) SetStockMarker(Number(gGames->StockNum));
     std::vector<bool> placed;
-    placed.reserve(static_cast<std::size_t>(gGames->TotalCards()));
-    for (int c = 0; c < gGames->TotalCards(); ++c) placed.push_back(mFunc::CardCell(c) == Goal);
+    placed.reserve(GameCards().size());
+    for (const CardRecord& card : GameCards()) placed.push_back(card.Cell == Goal);
     MakeAll(mDeal::DealStock(*gGames, Faces(), placed), AtOnce);
 }
 

@@ -46,6 +46,11 @@ int cArray::GetTopPicID(int Cell, int Pile) const { return GetPicID(Cell, Pile, 
 
 int cArray::GetPicID(int Cell, int Pile, int Pos) const { return posTable_[PlaceIndex(Cell, Pile, Pos)]; }
 
+std::span<const short> cArray::Cards(int Cell, int Pile) const {
+    const auto count = static_cast<std::size_t>(GetTop(Cell, Pile) + 1);
+    return std::span(posTable_).subspan(PlaceIndex(Cell, Pile, 0), count);
+}
+
 int cArray::TotalGoalCards() const {
     int total = 0;
     for (int pile = 0; pile < FoundationPiles; ++pile) total += GetTop(Goal, pile) + 1;
@@ -53,11 +58,9 @@ int cArray::TotalGoalCards() const {
 }
 
 int cArray::ClosedCards(int Pile) const {
-    int closed = 0;
-    for (int Pos = 0; Pos <= GetTop(Home, Pile); ++Pos) {
-        if (PicBack.PicCards(GetPicID(Home, Pile, Pos)).FaceMode == 1) ++closed;
-    }
-    return closed;
+    const auto cards = Cards(Home, Pile);
+    return static_cast<int>(std::count_if(cards.begin(), cards.end(),
+                                          [](int PicID) { return PicBack.PicCards(PicID).FaceMode == 1; }));
 }
 
 void cArray::MoveCard(int PicID, int DCell, int DPile, int DPos, ::tMod tMod, int Speed, int mCards,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <vector>
 
 #include "engine/state/Card.h"
@@ -26,6 +27,8 @@ public:
     [[nodiscard]] int GetTopPicID(int Cell, int Pile = 0) const;
     /// The card at a place, or -1. A place outside the tables throws std::out_of_range.
     [[nodiscard]] int GetPicID(int Cell, int Pile, int Pos) const;
+    /// The cards of a pile, bottom first; until the next move. A pile outside the tables throws.
+    [[nodiscard]] std::span<const short> Cards(int Cell, int Pile = 0) const;
     /// Cards on the foundations, eight piles whatever the game shows.
     [[nodiscard]] int TotalGoalCards() const;
     /// Closed cards of a tableau pile.

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <limits>
+#include <span>
 
 #include "engine/outside/windowlayer.h"
 #include "engine/state/Card.h"
@@ -56,6 +57,8 @@ public:
 
     /// A number outside 0 to 103 throws std::out_of_range.
     [[nodiscard]] const CardRecord& PicCards(int PicID) const;
+    /// All cards by PicID, those that the game does not have among them.
+    [[nodiscard]] std::span<const CardRecord> Cards() const { return cards_; }
     [[nodiscard]] const MarkRecord& Mark(MarkKind kind, int index) const;
     /// How many marks of that kind exist: 18, 8, 10, 1, 1.
     [[nodiscard]] static int MarkCount(MarkKind kind);

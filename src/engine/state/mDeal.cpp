@@ -146,6 +146,7 @@ Steps DealStock(const cGames& game, const Faces& cards, const std::vector<bool>&
     Steps steps;
     if (game.Piles(Stock) == 0) return steps;
     const bool closed = game.StockType() != StockType::Open;
+    steps.reserve(placed.size());
     for (int c = 0; c < game.TotalCards(); ++c) {
         if (placed.at(static_cast<std::size_t>(c))) continue;
         if (game.StockType() == StockType::TwoSuits && FaceAt(cards, c).Suit >= 2) continue;

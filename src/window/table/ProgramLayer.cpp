@@ -1,6 +1,7 @@
 // The adapters between the engine and Qt.
 #include "window/table/ProgramLayer.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -95,6 +96,8 @@ bool ProgramForms::ShowProgress(const std::string& task, int percent) {
     }
     return !canceled;
 }
+
+bool ProgramForms::Listens() const { return main_ && QAccessible::isActive(); }
 
 void ProgramForms::Announce(const std::string& text) {
     if (main_) main_->Announce(text);

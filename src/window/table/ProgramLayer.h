@@ -31,6 +31,7 @@ public:
     [[nodiscard]] std::optional<std::string> AskSaveFile(const std::string& name,
                                                          const std::string& filter) override;
     [[nodiscard]] bool ShowProgress(const std::string& task, int percent) override;
+    [[nodiscard]] bool Listens() const override;
     void Announce(const std::string& text) override;
     void SetCaption(const std::string& caption) override;
     void ShowRecent(const std::vector<std::string>& names) override;

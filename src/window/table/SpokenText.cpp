@@ -11,7 +11,6 @@ SpokenText::SpokenText(QWidget* parent) : QWidget(parent) {
 }
 
 void SpokenText::Say(const QString& text) {
-    if (!QAccessible::isActive()) return;
     setAccessibleName(text);
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
     QAccessibleAnnouncementEvent event(this, text);
