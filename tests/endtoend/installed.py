@@ -1,4 +1,4 @@
-"""The installed program, started as a menu would start it: it opens, deals, and finds its sound module.
+"""The installed program, started as a menu would start it: it opens, deals, and finds its modules.
 
     installed.py BUILD
 """
@@ -9,7 +9,7 @@ import subprocess
 import sys
 import tempfile
 
-from window import Game, run, wait_for
+from window import Failure, Game, run, wait_for
 
 
 def play(screen, prefix):
@@ -18,11 +18,16 @@ def play(screen, prefix):
     with Game(screen, menu["Desktop Entry"]["Exec"]) as game:
         game.choose("Klondike")
 
-        def module_loaded():
+        def loaded(module):
             with open(f"/proc/{game.process.pid}/maps", encoding="utf-8") as maps:
-                return any(line.rstrip().endswith("/tarnival-sounds.so") and prefix in line for line in maps)
+                return any(line.rstrip().endswith(f"/{module}.so") and prefix in line for line in maps)
 
-        wait_for("the installed sound module", module_loaded)
+        wait_for("the installed sound module", lambda: loaded("tarnival-sounds"))
+        if loaded("tarnival-charts"):
+            raise Failure("the chart module is there before a chart")
+        screen.settle()
+        game.keys("F4")
+        wait_for("the installed chart module", lambda: loaded("tarnival-charts"))
 
 
 def install_and_play(screen, build):

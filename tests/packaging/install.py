@@ -2,7 +2,7 @@
 
     install.py BUILD MODULES PICTURES
 
-BUILD is the build folder, MODULES the folder of the sound module below the prefix, PICTURES where the pictures
+BUILD is the build folder, MODULES the folder of the modules below the prefix, PICTURES where the pictures
 for software catalogues lie.
 """
 
@@ -56,7 +56,8 @@ def look_at_screenshots(metainfo, pictures):
 
 def look(prefix, modules, pictures):
     share = os.path.join(prefix, "share")
-    wanted = {"games/tarnival", f"{modules}/tarnival-sounds.so", "share/applications/tarnival.desktop",
+    wanted = {"games/tarnival", f"{modules}/tarnival-sounds.so", f"{modules}/tarnival-charts.so",
+              "share/applications/tarnival.desktop",
               "share/metainfo/org.kelmor.Tarnival.metainfo.xml", "share/man/man6/tarnival.6.gz",
               "share/doc/tarnival/copyright", "share/doc/tarnival/changelog.gz",
               "share/icons/hicolor/scalable/apps/tarnival.svg"}

@@ -2,7 +2,10 @@
 #include "engine/records/ImportedRecords.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <limits>
+#include <optional>
 #include <unordered_set>
 
 #include <fmt/format.h>

@@ -109,8 +109,6 @@ int RowHeight(const QWidget* list) {
     return std::max(text, icon) + text / 4;
 }
 
-bool IsDark(const QPalette& palette) { return palette.color(QPalette::Base).lightness() < 128; }
-
 QColor Readable(const QColor& color, const QPalette& palette) {
     if (!IsDark(palette)) return color;
     constexpr int Lightest = 255;

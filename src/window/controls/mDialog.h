@@ -38,7 +38,9 @@ void FillCombo(QComboBox* combo, const QIcon& icon, const std::vector<std::strin
 [[nodiscard]] int RowHeight(const QWidget* list);
 
 /// Whether lists and charts stand light on dark.
-[[nodiscard]] bool IsDark(const QPalette& palette);
+[[nodiscard]] inline bool IsDark(const QPalette& palette) {
+    return palette.color(QPalette::Base).lightness() < 128;
+}
 /// A text colour chosen for a light ground, or on a dark one its equivalent: the same hue, as light as
 /// the colour was dark, and light enough to be read.
 [[nodiscard]] QColor Readable(const QColor& color, const QPalette& palette);

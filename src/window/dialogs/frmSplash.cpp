@@ -34,7 +34,10 @@ void frmSplash::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.drawImage(rect(), Art::Splash(size() * devicePixelRatioF()));
     if (std::exchange(painted_, true)) return;
-    QTimer::singleShot(0, this, &frmSplash::ShowVersion);
+    // The picture is handed over when this event ends, and seen when the window system has its turn: where
+    // there is one core for both, that is when this process waits.
+    constexpr int Turn = 1;  // milliseconds
+    QTimer::singleShot(Turn, this, &frmSplash::ShowVersion);
 }
 
 // The first text of a process loads its fonts, which would hold the picture up.

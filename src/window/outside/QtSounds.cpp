@@ -8,10 +8,10 @@
 #include <utility>
 
 #include <QCoreApplication>
-#include <QPluginLoader>
 #include <QThread>
 
 #include "window/outside/SoundMixer.h"
+#include "window/outside/mModules.h"
 
 namespace {
 
@@ -35,21 +35,11 @@ public:
     ~Mixer() override { delete module_; }
 
     void Play(const QString& wave) {
-        if (!std::exchange(sought_, true)) module_ = Load();
+        if (!std::exchange(sought_, true)) module_ = mModules::Load("tarnival-sounds.so");
         if (auto* mixer = qobject_cast<SoundMixer*>(module_)) mixer->Play(wave);
     }
 
 private:
-    // Beside the program, as built, or in its library folder, as installed.
-    static QObject* Load() {
-        for (const char* folder : {".", TARNIVAL_MODULES}) {
-            QPluginLoader loader(QCoreApplication::applicationDirPath() + QLatin1Char('/') +
-                                 QLatin1String(folder) + QStringLiteral("/tarnival-sounds.so"));
-            if (QObject* module = loader.instance()) return module;
-        }
-        return nullptr;
-    }
-
     QObject* module_ = nullptr;
     bool sought_ = false;
 };

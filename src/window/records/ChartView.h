@@ -1,11 +1,14 @@
-// A view of one chart: made when it is first seen, and again when the desktop's colours or font change.
+// A view of one chart. A program without its module for charts says in words what it would show.
 #pragma once
 
-#include <QtCharts/QChartView>
+#include <QWidget>
 
 #include "engine/records/mPlot.h"
 
-class ChartView : public QChartView {
+class ChartDrawing;
+class QLabel;
+
+class ChartView : public QWidget {
     Q_OBJECT
 public:
     /// The names are the object's and the one that assistive programs read.
@@ -13,19 +16,8 @@ public:
 
     void SetData(const mStatistics::ChartData& wanted);
 
-protected:
-    void showEvent(QShowEvent* event) override;
-    void changeEvent(QEvent* event) override;
-    bool viewportEvent(QEvent* event) override;
-    void drawBackground(QPainter* painter, const QRectF& part) override;
-
 private:
-    void Draw();
-    void SetLeastSize();
-    [[nodiscard]] QString TipAt(const QPoint& position) const;
-
     mPlot::Kind kind_;
-    mStatistics::ChartData data_;
-    mPlot::Plot plot_;
-    bool drawn_ = false;
+    ChartDrawing* drawing_ = nullptr;
+    QLabel* words_ = nullptr;  // in its place
 };
