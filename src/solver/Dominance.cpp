@@ -145,10 +145,25 @@ Dominance::Dominance(const Rules& rules) : rules_(rules), chains_(AreChains(rule
         }
         closure_[Index(kind)] = closure;
     }
+    alone_ = chains_ && !rules.Autoplay && !rules.DealsOnto &&
+             (rules.Refill == AutoFill::None || rules.Refill == AutoFill::NoneEither);
+    // A card at home whose closure holds nothing but what came there before it is safe there always; that is to be
+    // told by the kinds where each comes after one card only.
+    returnsOfUse_ = rules.TotalCards > Kinds;
+    for (int kind = 0; kind < Kinds; ++kind) {
+        KindSet home = Only(kind);
+        for (KindSet next = before_[Index(kind)]; std::has_single_bit(next);) {
+            if ((home & next) != 0) break;
+            home |= next;
+            next = before_[Index(std::countr_zero(next))];
+        }
+        if ((closure_[Index(kind)] & ~home) != 0) returnsOfUse_ = true;
+    }
     onePlace_ = chains_ && HaveOnePlace(rules, before_);
 }
 
 bool Dominance::TableauAlone(const Position& position) const {
+    if (alone_) return true;
     if (!chains_ || rules_.Autoplay || position.DealsOntoPiles()) return false;
     switch (rules_.Refill) {
         case AutoFill::FromWaste:
@@ -184,60 +199,55 @@ bool Dominance::IsSafe(const Position& position, int kind) const {
     return true;
 }
 
-std::optional<Move> Dominance::SafeHome(const Position& position, int from) const {
+bool Dominance::SafeHome(const Position& position, int from, Move& move) const {
     const int kind = position.TopKind(from);
-    if (!Has(position.GoalTakes(), kind)) return std::nullopt;
+    if (!Has(position.GoalTakes(), kind)) return false;
     for (int goal = FirstGoal; goal < FirstGoal + rules_.GoalPiles; ++goal) {
         if (!position.GoalAccepts(kind, goal)) continue;
-        if (!IsSafe(position, kind)) return std::nullopt;
-        return Move{Move::Kind::Play, static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(goal), 1};
+        move = {Move::Kind::Play, static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(goal), 1};
+        return IsSafe(position, kind);
     }
-    return std::nullopt;
+    return false;
 }
 
-std::optional<Move> Dominance::SafeLaying(const Position& position, int from) const {
+bool Dominance::SafeLaying(const Position& position, int from, Move& move) const {
     const int most = std::max(1, position.LiftableCards(from));
     for (int count = 1; count <= most; ++count) {
         if (!position.IsLiftable(from, count)) break;
         const int kind = KindOf(position.At(from, position.Count(from) - count).Card);
-        if ((rules_.HomeUnder[Index(kind)] & position.HomeTops()) == 0) continue;
-        for (int pile = FirstHome; pile < FirstHome + rules_.HomePiles; ++pile) {
-            if (pile == from || position.IsEmpty(pile) || !position.HomeAccepts(kind, from, pile)) continue;
-            if (!position.Top(pile).Settled) return std::nullopt;
-            return Move{Move::Kind::Play, static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(pile),
-                        static_cast<std::uint8_t>(count)};
-        }
+        const auto lay = [&](int pile) {
+            if (pile == from || !position.HomeAccepts(kind, from, pile)) return false;
+            move = {Move::Kind::Play, static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(pile),
+                    static_cast<std::uint8_t>(count)};
+            return true;
+        };
+        // No other pile takes it.
+        if (position.AnyHomeTop(rules_.HomeUnder[Index(kind)], lay)) return position.Top(move.To).Settled;
     }
-    return std::nullopt;
+    return false;
 }
 
-std::optional<Move> Dominance::SafeMove(const Position& position) const {
-    if (!TableauAlone(position)) return std::nullopt;
+bool Dominance::SafeMove(const Position& position, Move& move) const {
+    if (!TableauAlone(position)) return false;
+    const KindSet taken = position.GoalTakes() | (onePlace_ ? position.SettledTake() : 0);
+    const auto from = [&](int pile) {
+        return SafeHome(position, pile, move) || (onePlace_ && SafeLaying(position, pile, move));
+    };
+    if (onePlace_ && rules_.MultiMove) {  // a run may be laid whose top card is not taken
+        for (int pile = FirstHome; pile < FirstHome + rules_.HomePiles; ++pile) {
+            if (!position.IsEmpty(pile) && from(pile)) return true;
+        }
+    } else if (position.AnyHomeTop(taken, from)) {
+        return true;
+    }
+    if (position.AnyResTop(taken, from)) return true;
+    const auto fromTop = [&](int pile) {
+        return !position.IsEmpty(pile) && Has(taken, position.TopKind(pile)) && from(pile);
+    };
+    if (rules_.OpenStock && fromTop(StockPile)) return true;
     const bool inThrees =
         rules_.Press == StockMove::ThreeToWaste && (!position.IsEmpty(StockPile) || position.RedealAllowed());
-    // One look at all top cards tells in most positions that there is none.
-    KindSet tops = position.HomeTops() | position.ResTops();
-    if (rules_.OpenStock && !position.IsEmpty(StockPile)) tops |= Only(position.TopKind(StockPile));
-    if (!inThrees && !position.IsEmpty(WastePile)) tops |= Only(position.TopKind(WastePile));
-    const KindSet taken = position.GoalTakes() | (onePlace_ ? position.SettledTake() : 0);
-    const bool groups = onePlace_ && rules_.MultiMove;
-    if ((tops & taken) == 0 && !groups) return std::nullopt;
-
-    const auto from = [&](int pile) -> std::optional<Move> {
-        if (position.IsEmpty(pile) || (!groups && !Has(taken, position.TopKind(pile)))) return std::nullopt;
-        if (const auto home = SafeHome(position, pile)) return home;
-        return onePlace_ ? SafeLaying(position, pile) : std::nullopt;
-    };
-    for (int pile = FirstHome; pile < FirstHome + rules_.HomePiles; ++pile) {
-        if (const auto move = from(pile)) return move;
-    }
-    for (int pile = FirstRes; pile < FirstRes + rules_.ResPiles; ++pile) {
-        if (const auto move = from(pile)) return move;
-    }
-    if (rules_.OpenStock) {
-        if (const auto move = from(StockPile)) return move;
-    }
-    return inThrees ? std::nullopt : from(WastePile);
+    return !inThrees && fromTop(WastePile);
 }
 
 bool Dominance::ReturnsAreChained(const Position& position) const {
@@ -245,6 +255,7 @@ bool Dominance::ReturnsAreChained(const Position& position) const {
 }
 
 bool Dominance::AddReturns(Position& position, MoveList& list) const {
+    if (!returnsOfUse_) return true;
     constexpr int Most = 100;
     const std::size_t before = list.Count();
     Chain chain{{}, Most};
@@ -268,7 +279,7 @@ void Dominance::Return(Position& position, int goal, MoveList& list, Chain& chai
         const Move move{Move::Kind::Play, static_cast<std::uint8_t>(goal), static_cast<std::uint8_t>(pile),
                         1};
         if (--chain.Left < 0) return;
-        const std::size_t mark = position.Mark();
+        const Position::Mark mark = position.Here();
         position.Make(move);
         chain.Moves.push_back(move);
         Use(position, goal, pile, list, chain);
@@ -321,7 +332,7 @@ void Dominance::Use(Position& position, int goal, int pile, MoveList& list, Chai
         const Move move{Move::Kind::Play, static_cast<std::uint8_t>(other), static_cast<std::uint8_t>(pile),
                         1};
         if (--chain.Left < 0) return;
-        const std::size_t mark = position.Mark();
+        const Position::Mark mark = position.Here();
         position.Make(move);
         chain.Moves.push_back(move);
         Use(position, other, pile, list, chain);

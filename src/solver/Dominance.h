@@ -3,7 +3,6 @@
 #pragma once
 
 #include <array>
-#include <optional>
 
 #include "solver/Moves.h"
 #include "solver/Position.h"
@@ -14,9 +13,9 @@ class Dominance {
 public:
     explicit Dominance(const Rules& rules);
 
-    /// A move that can be made now without spoiling anything: of a card to the foundations, or of cards to
-    /// the one place where they fit.
-    [[nodiscard]] std::optional<Move> SafeMove(const Position& position) const;
+    /// Whether there is a move that can be made now without spoiling anything: of a card to the foundations,
+    /// or of cards to the one place where they fit.
+    [[nodiscard]] bool SafeMove(const Position& position, Move& move) const;
     /// Whether cards come back from foundations only for an immediate use.
     [[nodiscard]] bool ReturnsAreChained(const Position& position) const;
     /// Adds those chains: cards come back, and a card goes onto the last of them. False, and nothing added,
@@ -29,8 +28,8 @@ public:
 private:
     [[nodiscard]] bool TableauAlone(const Position& position) const;
     [[nodiscard]] bool IsSafe(const Position& position, int kind) const;
-    [[nodiscard]] std::optional<Move> SafeHome(const Position& position, int from) const;
-    [[nodiscard]] std::optional<Move> SafeLaying(const Position& position, int from) const;
+    [[nodiscard]] bool SafeHome(const Position& position, int from, Move& move) const;
+    [[nodiscard]] bool SafeLaying(const Position& position, int from, Move& move) const;
     /// A chain in the making.
     struct Chain {
         std::vector<Move> Moves;
@@ -41,6 +40,8 @@ private:
 
     const Rules& rules_;
     bool chains_ = false;
+    bool alone_ = false;         ///< the tableau changes by the player's moves alone, in every position
+    bool returnsOfUse_ = false;  ///< whether a card that comes back may be of use
     bool onePlace_ = false;  ///< each card has one place in the tableau, on the card that goes home after it
     std::array<KindSet, Kinds> before_{};  ///< by kind: what it may lie on at home
     /// By kind: what may lie on it in the tableau.

@@ -21,6 +21,15 @@ public:
     /// Has the place of a number brought near, for an Insert soon after.
     void Prefetch(std::uint64_t hash) const { __builtin_prefetch(&slots_[hash & (slots_.size() - 1)]); }
 
+    [[nodiscard]] bool Has(std::uint64_t hash) const {
+        std::size_t slot = hash & (slots_.size() - 1);
+        while (slots_[slot] != 0) {
+            if (slots_[slot] == hash) return true;
+            slot = (slot + 1) & (slots_.size() - 1);
+        }
+        return false;
+    }
+
     /// Whether the number is new to the set; it is in it then.
     bool Insert(std::uint64_t hash) {
         if (hash == 0) hash = 1;  // 0 marks a free slot

@@ -17,7 +17,8 @@ struct Node {
     std::uint32_t Next = NoNode;  ///< in a stack of the open list
     Move Made;
     std::uint16_t Depth = 0;
-    bool Inner = false;  ///< inside a chain of moves: nothing safe is played after it
+    std::uint8_t Memory = 0;  ///< the place where the effect of its move may be kept
+    bool Inner = false;       ///< inside a chain of moves: nothing safe is played after it
 };
 
 /// Grows by blocks, so that nothing is copied and no more memory taken than a block too much. A new search

@@ -22,31 +22,21 @@ Position::Position(const Rules& rules, const Weights& weights) : rules_(&rules),
                                 : rules.GoalHalf(pile - FirstGoal) == 0 ? OfGoal
                                                                         : OfUpperGoal;
     }
+    for (int pile = 0; pile < PileCount; ++pile) {
+        groups_[Index(pile)] = IsHome(pile) ? InHome : IsRes(pile) ? InRes : IsGoal(pile) ? InGoal : InTalon;
+    }
     Clear();
 }
 
 void Position::Clear() {
-    for (std::size_t pile = 0; pile < PileCount; ++pile) {
-        piles_[pile][0] = Entry{};
-        counts_[pile] = 0;
-    }
-    sum_ = 0;
-    worth_ = 0;
-    homeCopies_.fill(0);
-    allHome_ = 0;
-    homeTops_.fill(0);
-    resTops_.fill(0);
-    settledTake_ = 0;
-    goalTakes_ = 0;
-    for (int goal = FirstGoal; goal < StockPile; ++goal) NoteGoal(goal);
-    cardsHome_ = 0;
-    usedHome_ = 0;
-    usedRes_ = 0;
-    cardsRes_ = 0;
-    redeals_ = 0;
-    pileDeals_ = 0;
-    undo_.clear();
+    for (auto& pile : piles_) pile[0] = Entry{};
+    now_ = {};
+    now_.EmptyHomes = (PileSet{1} << rules_->HomePiles) - 1;
+    NoteGoals();
+    removals_.clear();
 }
+
+void Position::Put(int pile, Card card) { Lay(pile, card); }
 
 void Position::Begin(const mDeal::Opening& opening) {
     Clear();
@@ -55,9 +45,9 @@ void Position::Begin(const mDeal::Opening& opening) {
             for (const mDeal::Lying& lying : opening.Piles[Index(cell)][pile]) {
                 const CardFace& face = opening.Cards[Index(lying.PicID)];
                 const int kind = face.Suitpile % SuitCount * RankCount + face.Num;
-                Push(first + static_cast<int>(pile),
-                     static_cast<Card>(kind + (face.Suitpile >= SuitCount ? SecondDeck : 0) +
-                                       (lying.Closed && cell == Home ? Closed : 0)));
+                Lay(first + static_cast<int>(pile),
+                    static_cast<Card>(kind + (face.Suitpile >= SuitCount ? SecondDeck : 0) +
+                                      (lying.Closed && cell == Home ? Closed : 0)));
             }
         }
     };
@@ -67,55 +57,38 @@ void Position::Begin(const mDeal::Opening& opening) {
     put(Stock, StockPile);
     put(Waste, WastePile);
     Settle();
-    undo_.clear();
-}
-
-bool Position::DealsOntoPiles() const {
-    constexpr int FirstPresses = 3;
-    if (rules_->Gathers && RedealAllowed()) return true;
-    if (rules_->OpenStock || IsEmpty(StockPile)) return false;
-    return rules_->Press == StockMove::OneToEachPile ||
-           (rules_->Press == StockMove::FirstThreeToPiles && pileDeals_ < FirstPresses);
+    removals_.clear();
 }
 
 int Position::MaxMoveCards() const { return (EmptyRes() + 1) * EmptyHome() + EmptyRes(); }
 
-int Position::LiftableCards(int pile) const {
-    if (IsEmpty(pile) || !IsHome(pile) || !rules_->MultiMove) return IsEmpty(pile) ? 0 : 1;
-    const int most = Top(pile).Lifted;
-    return rules_->LimitedRuns && most > 1 ? std::min(most, MaxMoveCards() + 1) : most;
-}
-
 bool Position::ResAccepts(int to, int count) const { return rules_->FreeCells && count == 1 && IsEmpty(to); }
 
-bool Position::GoalAccepts(int kind, int to) const { return Has(taken_[Index(to - FirstGoal)], kind); }
-
-// After a change of a foundation pile: what it takes now.
-void Position::NoteGoal(int pile) {
-    const int goal = pile - FirstGoal;
-    KindSet takes = 0;
-    if (!rules_->RunsLeave && goal < rules_->GoalPiles) {
-        if (IsEmpty(pile)) {
-            takes = rules_->BaseKinds;
-        } else if (Count(pile) != RankCount) {
-            takes = rules_->GoalFits[Index(rules_->GoalHalf(goal))][Index(TopKind(pile))];
-        }
-    }
-    taken_[Index(goal)] = takes;
-    goalTakes_ = 0;
-    for (const KindSet set : taken_) goalTakes_ |= set;
+// The kinds that a foundation pile takes.
+KindSet Position::Takes(int goal) const {
+    if (rules_->RunsLeave || Count(goal) == RankCount) return 0;
+    return IsEmpty(goal) ? rules_->BaseKinds
+                         : rules_->GoalFits[Index(rules_->GoalHalf(goal - FirstGoal))][Index(TopKind(goal))];
 }
 
-// A card has become the top of its pile, or has ceased to be it.
-void Position::NoteTop(int pile, const Entry& entry) {
-    const KindSet kind = Only(KindOf(entry.Card));
-    const std::size_t pack = (entry.Card & SecondDeck) != 0 ? 1 : 0;
-    if (IsHome(pile)) {
-        homeTops_[pack] ^= kind;
-        if (entry.Settled) settledTake_ ^= rules_->HomeFits[Index(KindOf(entry.Card))];
-    } else if (IsRes(pile)) {
-        resTops_[pack] ^= kind;
-    }
+// After a change of a foundation pile.
+void Position::NoteGoals() {
+    now_.GoalTakes = 0;
+    for (int goal = FirstGoal; goal < FirstGoal + rules_->GoalPiles; ++goal) now_.GoalTakes |= Takes(goal);
+}
+
+// A card has become the top of a pile, or has ceased to be it. `there` has all bits, or none where there is
+// no card. Without a branch: which piles change is hard to foresee.
+inline void Position::ToggleTop(Group group, const Entry& entry, KindSet there) {
+    const int kind = KindOf(entry.Card);
+    now_.Tops[group][(entry.Card & SecondDeck) != 0 ? 1 : 0] ^= Only(kind) & there;
+    now_.SettledTake ^= rules_->HomeFits[Index(kind)] & -KindSet{entry.Settled};
+}
+
+// A pile has got its first card, or has lost its last.
+inline void Position::NoteUse(Group group, int pile, int change) {
+    now_.Used[group] = static_cast<std::uint8_t>(now_.Used[group] + change);
+    if (group == InHome) now_.EmptyHomes ^= static_cast<PileSet>(change & 1) << pile;
 }
 
 // Whether a card there stays until it goes to a foundation, or goes with all that lies on it.
@@ -127,124 +100,144 @@ bool Position::IsSettled(int kind, const Entry& below, bool bottom) const {
     return !fillsEmpty && Has(rules_->HomeFits[Index(KindOf(below.Card))], kind);
 }
 
-// What is known of a pile is known up to each card, so that a card that leaves takes its part along.
-void Position::Push(int pile, Card card) {
-    auto& entries = piles_[Index(pile)];
-    const Entry& below = entries[counts_[Index(pile)]];
-    const bool bottom = counts_[Index(pile)] == 0;
-    Entry& entry = entries[++counts_[Index(pile)]];
-    const int kind = KindOf(card);
-    if (!bottom) NoteTop(pile, below);
+// What is known of a pile is known up to each card, so that a card that leaves takes its part along. The
+// entry lies right above that of the card below.
+inline void Position::Fill(Entry& entry, Group group, bool bottom, Card card) const {
+    const Entry& below = *(&entry - 1);
     entry.Card = card;
+    entry.Place = static_cast<std::uint8_t>(below.Place + 1);
     entry.Hash = Mixed(below.Hash + rules_->Key[card]);
-    if (bottom && IsHome(pile)) ++usedHome_;
-    if (IsHome(pile)) {
-        const std::uint8_t steps = weights_->Steps[Index(kind)];
-        int worth = below.Worth;
-        if (below.Low < steps) worth += weights_->Covering;
-        if ((card & Closed) != 0) worth += weights_->Closed;
-        entry.Low = std::min(below.Low, steps);
-        entry.Lifted = 1;
-        entry.Leaving = 1;
-        if (bottom) {
-            if (steps == RankCount - 1) worth += weights_->Bottom;
-        } else {
-            const int under = KindOf(below.Card);
-            if (Has(rules_->HomeFits[Index(under)], kind) && (below.Card & Closed) == 0)
-                worth += weights_->Pair;
-            if (Has(rules_->LiftFits[Index(under)], kind)) {
-                entry.Lifted = static_cast<std::uint8_t>(below.Lifted + 1);
-                if ((below.Card & Closed) == 0) worth += weights_->Lifted;
-            }
-            if (rules_->RunsLeave && Has(rules_->RunFits[Index(under)], kind)) {
-                entry.Leaving = static_cast<std::uint8_t>(below.Leaving + 1);
-                if ((below.Card & Closed) == 0) worth += weights_->Leaving + weights_->Longer * below.Leaving;
-            }
+    if (group != InHome) {
+        entry.Worth = 0;
+        entry.Settled = false;
+        return;
+    }
+    const int kind = KindOf(card);
+    const std::uint8_t steps = weights_->Steps[Index(kind)];
+    int worth = below.Worth;
+    if (below.Low < steps) worth += weights_->Covering;
+    if ((card & Closed) != 0) worth += weights_->Closed;
+    entry.Low = std::min(below.Low, steps);
+    entry.Lifted = 1;
+    entry.Leaving = 1;
+    if (bottom) {
+        if (steps == RankCount - 1) worth += weights_->Bottom;
+    } else {
+        const int under = KindOf(below.Card);
+        const bool open = (below.Card & Closed) == 0;
+        if (Has(rules_->HomeFits[Index(under)], kind) && open) worth += weights_->Pair;
+        if (Has(rules_->LiftFits[Index(under)], kind)) {
+            entry.Lifted = static_cast<std::uint8_t>(below.Lifted + 1);
+            if (open) worth += weights_->Lifted;
         }
-        entry.Settled = IsSettled(kind, below, bottom);
-        entry.Worth = static_cast<std::int16_t>(worth);
-        worth_ += worth - below.Worth;
-    } else if (IsRes(pile)) {
-        ++cardsRes_;
-        if (bottom) ++usedRes_;
-    } else if (IsGoal(pile)) {
-        ++cardsHome_;
-        if (++homeCopies_[Index(kind)] == rules_->Copies[Index(kind)]) allHome_ |= Only(kind);
-        NoteGoal(pile);
+        if (rules_->RunsLeave && Has(rules_->RunFits[Index(under)], kind)) {
+            entry.Leaving = static_cast<std::uint8_t>(below.Leaving + 1);
+            if (open) worth += weights_->Leaving + weights_->Longer * below.Leaving;
+        }
     }
-    NoteTop(pile, entry);
-    sum_ += factors_[Index(pile)] * (entry.Hash - below.Hash);
+    entry.Settled = IsSettled(kind, below, bottom);
+    entry.Worth = static_cast<std::int16_t>(worth);
 }
 
-void Position::CutTo(int pile, int count) {
-    const Entry& top = Top(pile);
-    NoteTop(pile, top);
-    if (count > 0) NoteTop(pile, At(pile, count - 1));
-    counts_[Index(pile)] = static_cast<std::uint8_t>(count);
-    sum_ -= factors_[Index(pile)] * (top.Hash - Top(pile).Hash);
-    if (IsHome(pile)) {
-        worth_ -= top.Worth - Top(pile).Worth;
-        if (count == 0) --usedHome_;
-    } else if (IsRes(pile)) {
-        --cardsRes_;
-        if (count == 0) --usedRes_;
-    }
+[[gnu::always_inline]] inline void Position::Lay(int pile, Card card) {
+    const Group group = groups_[Index(pile)];
+    const int before = now_.Counts[Index(pile)]++;
+    const Entry& below = piles_[Index(pile)][Index(before)];
+    Entry& top = piles_[Index(pile)][Index(before + 1)];
+    Fill(top, group, before == 0, card);
+    where_[card & (KindBits | SecondDeck)] = {static_cast<std::uint8_t>(pile), top.Place};
+    ++now_.Cards[group];
+    NoteUse(group, pile, before == 0 ? 1 : 0);
+    ToggleTop(group, below, before != 0 ? AllKinds : 0);
+    ToggleTop(group, top, AllKinds);
+    now_.Worth += top.Worth - below.Worth;
+    now_.Hash += factors_[Index(pile)] * (top.Hash - below.Hash);
+    if (group == InGoal) NoteHome(&top, 1);
 }
 
-Card Position::Pop(int pile) {
-    const Card card = Top(pile).Card;
-    CutTo(pile, Count(pile) - 1);
-    if (IsGoal(pile)) {
-        NoteGoal(pile);
-        --cardsHome_;
-        --homeCopies_[Index(KindOf(card))];
-        allHome_ &= ~Only(KindOf(card));
-    }
-    return card;
+// Takes cards off a pile; their entries stay where they are until others are laid there.
+[[gnu::always_inline]] inline void Position::Remove(int pile, int count) {
+    const Group group = groups_[Index(pile)];
+    const int left = Count(pile) - count;
+    const Entry* const below = &piles_[Index(pile)][Index(left)];
+    for (int i = 1; i <= count; ++i) removals_.push_back({below[i], static_cast<std::uint8_t>(pile)});
+    now_.Counts[Index(pile)] = static_cast<std::uint8_t>(left);
+    now_.Cards[group] = static_cast<std::uint8_t>(now_.Cards[group] - count);
+    NoteUse(group, pile, left == 0 ? -1 : 0);
+    const Entry& top = below[count];
+    ToggleTop(group, top, AllKinds);
+    ToggleTop(group, *below, left != 0 ? AllKinds : 0);
+    now_.Worth -= top.Worth - below->Worth;
+    now_.Hash -= factors_[Index(pile)] * (top.Hash - below->Hash);
+    if (group != InGoal) return;
+    NoteHome(below + 1, count);
 }
 
-void Position::Note(Change::Kind what, int from, int to, int count) {
-    undo_.push_back({what, static_cast<std::uint8_t>(from), static_cast<std::uint8_t>(to),
-                     static_cast<std::uint8_t>(count)});
+// Cards have come to a foundation pile or left it.
+void Position::NoteHome(const Entry* cards, int count) {
+    for (int i = 0; i < count; ++i)
+        now_.Home[(cards[i].Card & SecondDeck) != 0 ? 1 : 0] ^= Only(KindOf(cards[i].Card));
+    NoteGoals();
+}
+
+void Position::TakeBack(const Mark& mark) {
+    while (removals_.size() > mark.Removals) {
+        const Removal& last = removals_.back();
+        piles_[last.Pile][last.Lay.Place] = last.Lay;
+        where_[last.Lay.Card & (KindBits | SecondDeck)] = {last.Pile, last.Lay.Place};
+        removals_.pop_back();
+    }
+    now_ = mark.Then;
+}
+
+bool Position::Remember(const Mark& mark, Effect& effect) const {
+    effect.Count = removals_.size() - mark.Removals;
+    if (effect.Count > Effect::Most) return false;
+    for (std::size_t i = 0; i < effect.Count; ++i) {
+        const Removal& removal = removals_[mark.Removals + i];
+        const Place& place = where_[removal.Lay.Card & (KindBits | SecondDeck)];
+        effect.Removals[i] = removal;
+        effect.Laid[i] = piles_[place.Pile][place.Number];
+        effect.Piles[i] = place.Pile;
+    }
+    effect.After = now_;
+    return true;
+}
+
+void Position::Repeat(const Effect& effect) {
+    for (std::size_t i = 0; i < effect.Count; ++i) {
+        removals_.push_back(effect.Removals[i]);
+        const Entry& laid = effect.Laid[i];
+        piles_[effect.Piles[i]][laid.Place] = laid;
+        where_[laid.Card & (KindBits | SecondDeck)] = {effect.Piles[i], laid.Place};
+    }
+    now_ = effect.After;
 }
 
 // The cards keep their order and lie open afterwards.
 void Position::Carry(int from, int to, int count) {
-    const int first = Count(from) - count;
-    for (int place = first; place < first + count; ++place) {
-        if ((At(from, place).Card & Closed) != 0) Note(Change::Kind::FaceUp, from, 0, place);
-    }
-    Note(Change::Kind::Carry, from, to, count);
-    if (count == 1) {
-        Push(to, static_cast<Card>(Pop(from) & ~Closed));
+    if (count == 1) {  // mostly, and much faster
+        const Card card = Top(from).Card;
+        Remove(from, 1);
+        Lay(to, static_cast<Card>(card & ~Closed));
     } else {
-        for (int place = first; place < first + count; ++place) {
-            Push(to, static_cast<Card>(At(from, place).Card & ~Closed));
-        }
-        CutTo(from, first);
+        Remove(from, count);
+        const Entry* const cards = &Top(from) + 1;
+        for (int i = 0; i < count; ++i) Lay(to, static_cast<Card>(cards[i].Card & ~Closed));
     }
-    if (IsHome(from)) OpenTop(from);
+    if (IsHome(from) && (Top(from).Card & Closed) != 0) OpenTop(from);
 }
 
 void Position::OpenTop(int pile) {
-    if (IsEmpty(pile) || (Top(pile).Card & Closed) == 0) return;
-    Note(Change::Kind::OpenTop, pile, 0, 0);
-    Push(pile, static_cast<Card>(Pop(pile) & ~Closed));
+    const Card top = Top(pile).Card;
+    Remove(pile, 1);
+    Lay(pile, static_cast<Card>(top & ~Closed));
 }
 
 void Position::CarryAndSettle(int from, int to, int count) {
     if (IsGoal(to) && !rules_->RunsLeave && Count(to) == RankCount) return;  // a full pile refuses in silence
     Carry(from, to, count);
     Settle();
-}
-
-// The card, and what lies on it, is pushed anew.
-void Position::SetClosed(int pile, int place) {
-    std::array<Card, Capacity> above;
-    int count = 0;
-    while (Count(pile) > place) above[Index(count++)] = Pop(pile);
-    above[Index(count - 1)] |= Closed;
-    while (count > 0) Push(pile, above[Index(--count)]);
 }
 
 void Position::Make(const Move& move) {
@@ -270,42 +263,6 @@ void Position::Make(const Move& move) {
     }
 }
 
-void Position::TakeBack(std::size_t mark) {
-    while (undo_.size() > mark) {
-        const Change change = undo_.back();
-        undo_.pop_back();
-        switch (change.What) {
-            case Change::Kind::Carry: {
-                const int first = Count(change.To) - change.Count;
-                if (change.Count == 1) {
-                    Push(change.From, Pop(change.To));
-                } else {
-                    for (int place = first; place < first + change.Count; ++place) {
-                        Push(change.From, At(change.To, place).Card);
-                    }
-                    CutTo(change.To, first);
-                }
-                break;
-            }
-            case Change::Kind::TurnOver:
-                for (int i = 0; i < change.Count; ++i) Push(change.From, Pop(change.To));
-                break;
-            case Change::Kind::OpenTop:
-                Push(change.From, static_cast<Card>(Pop(change.From) | Closed));
-                break;
-            case Change::Kind::FaceUp:
-                SetClosed(change.From, change.Count);
-                break;
-            case Change::Kind::CountRedeal:
-                --redeals_;
-                break;
-            case Change::Kind::CountPileDeal:
-                --pileDeals_;
-                break;
-        }
-    }
-}
-
 void Position::PressStock() {
     constexpr int FirstPresses = 3;
     constexpr int ThreeCards = 3;
@@ -314,10 +271,9 @@ void Position::PressStock() {
             DealStockToHome();
             return;
         case StockMove::FirstThreeToPiles:
-            if (pileDeals_ < FirstPresses) {
+            if (now_.PileDeals < FirstPresses) {
                 DealStockToHome();
-                Note(Change::Kind::CountPileDeal, 0, 0, 0);
-                ++pileDeals_;
+                ++now_.PileDeals;
                 return;
             }
             break;
@@ -339,15 +295,15 @@ void Position::DealStockToHome() {
 }
 
 void Position::ClickMarker() {
-    Note(Change::Kind::CountRedeal, 0, 0, 0);
-    ++redeals_;
+    ++now_.Redeals;
     if (rules_->Gathers) {
         Gather();
         return;
     }
+    // From the top of the waste on: the stock is taken from its top.
     const int count = Count(WastePile);
-    Note(Change::Kind::TurnOver, WastePile, StockPile, count);
-    for (int i = 0; i < count; ++i) Push(StockPile, Pop(WastePile));
+    Remove(WastePile, count);
+    for (int place = count; place-- > 0;) Lay(StockPile, At(WastePile, place).Card);
 }
 
 // Pile by pile from the top onto the stock, and in rows over the piles again. Gathered cards lie closed and
@@ -363,7 +319,7 @@ void Position::Gather() {
 }
 
 // Complete runs, foundations, refills, in this order. A card that moves in a pass starts a pass of its own.
-void Position::Settle() {
+void Position::FollowUp() {
     if (rules_->RunsLeave) {
         for (int pile = 0; pile < rules_->HomePiles && !Won(); ++pile) {
             if (HasCompleteRun(pile)) MoveCompleteRun(pile);
@@ -428,12 +384,25 @@ void Position::RefillPass() {
 std::uint64_t Position::Hash() const {
     // With Autoplay the first pile that fits is served first, in every group.
     const int ordered = rules_->Autoplay ? StockPile : DealsOntoPiles() ? FirstRes : 0;
-    std::uint64_t hash = sum_;
+    std::uint64_t hash = now_.Hash;
     for (int pile = 0; pile < ordered; ++pile) {
         const std::uint64_t top = Top(pile).Hash;
         hash += factors_[Index(pile)] * (Mixed(top + Index(pile)) - top);
     }
     return Mixed(hash + TalonHash());
+}
+
+std::uint64_t Position::HashAfter(const Move& play, std::uint64_t talon) const {
+    if (rules_->FollowUps || play.What != Move::Kind::Play || play.From >= StockPile || DealsOntoPiles())
+        return 0;
+    const Entry& below = At(play.From, Count(play.From) - play.Count - 1);
+    if (IsHome(play.From) && (below.Card & Closed) != 0) return 0;
+    const std::uint64_t before = Top(play.To).Hash;
+    std::uint64_t after = before;
+    for (int place = Count(play.From) - play.Count; place < Count(play.From); ++place)
+        after = Mixed(after + rules_->Key[At(play.From, place).Card]);
+    return Mixed(now_.Hash + factors_[play.From] * (below.Hash - Top(play.From).Hash) +
+                 factors_[play.To] * (after - before) + talon);
 }
 
 // Where the talon waits until a card of it is played, it is the row of its cards in the order in which they
@@ -454,8 +423,8 @@ std::uint64_t Position::TalonHash() const {
         return OfWaste * row + (turns ? 0 : Mixed(Index(cut)));
     }
     std::uint64_t hash = OfStock * Top(StockPile).Hash + OfWaste * Top(WastePile).Hash;
-    if (rules_->CanRedeal && rules_->Redeals > 0) hash += Mixed(static_cast<std::uint64_t>(redeals_) + 1);
-    return hash + static_cast<std::uint64_t>(pileDeals_) * 0x8EBC6AF09C88C6E3U;
+    if (rules_->CanRedeal && rules_->Redeals > 0) hash += Mixed(static_cast<std::uint64_t>(now_.Redeals) + 1);
+    return hash + static_cast<std::uint64_t>(now_.PileDeals) * 0x8EBC6AF09C88C6E3U;
 }
 
 }  // namespace Solver

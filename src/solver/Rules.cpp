@@ -70,6 +70,10 @@ Rules::Rules(const cGames& game, Switches switches)
       Redeals(game.Redeals()),
       Gathers(game.RedealType() == RedealType::GatherTableau) {
     CardsToWin = RunsLeave ? TotalCards : std::min(TotalCards, RankCount * GoalPiles);
+    FollowUps = Autoplay || RunsLeave || Refill == AutoFill::FromWaste || Refill == AutoFill::FromReserve;
+    DealsOnto =
+        (!OpenStock && (Press == StockMove::OneToEachPile || Press == StockMove::FirstThreeToPiles)) ||
+        (Gathers && CanRedeal);
     TalonFree = !OpenStock && Press != StockMove::OneToEachPile && Press != StockMove::FirstThreeToPiles &&
                 Refill != AutoFill::FromWaste && !(CanRedeal && Gathers) && !Autoplay;
     std::array<CardFace, Kinds> faces;
@@ -78,6 +82,8 @@ Rules::Rules(const cGames& game, Switches switches)
         Copies[static_cast<std::size_t>(kind)] =
             static_cast<std::uint8_t>((TotalCards > kind ? 1 : 0) + (TotalCards > kind + Kinds ? 1 : 0));
     }
+    PackCount = TotalCards > Kinds ? 2 : 1;
+    for (int value = 0; value < TotalCards; ++value) Packs[value < Kinds ? 0 : 1] |= Only(value % Kinds);
     HomeFits = FitsOf(faces, game.Order(Home, 0), game.AK(Home) != 0);
     LiftFits = FitsOf(faces, game.MultiOrder(), game.AK(Home) != 0);
     GoalFits[0] = FitsOf(faces, game.Order(Goal, 0), game.AK(Goal) != 0);
@@ -120,9 +126,10 @@ Rules::Rules(const cGames& game, Switches switches)
 void Rules::SetBase(int base, int emptyNum) {
     Base = base;
     EmptyNum = emptyNum;
-    BaseKinds = 0;
+    BaseKinds = EmptyTakes = 0;
     for (int kind = 0; kind < Kinds; ++kind) {
         if (RankOf(kind) == base) BaseKinds |= Only(kind);
+        if (emptyNum == -1 || RankOf(kind) == emptyNum) EmptyTakes |= Only(kind);
     }
 }
 

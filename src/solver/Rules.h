@@ -34,6 +34,8 @@ inline constexpr int FirstGoal = 28;
 inline constexpr int StockPile = 36;
 inline constexpr int WastePile = 37;
 inline constexpr int PileCount = 38;
+/// A set of piles of the tableau and the reserve: bit p stands for pile p.
+using PileSet = std::uint32_t;
 [[nodiscard]] constexpr bool IsHome(int pile) { return pile < FirstRes; }
 [[nodiscard]] constexpr bool IsRes(int pile) { return pile >= FirstRes && pile < FirstGoal; }
 [[nodiscard]] constexpr bool IsGoal(int pile) { return pile >= FirstGoal && pile < StockPile; }
@@ -57,8 +59,9 @@ struct Rules {
     int HomePiles, ResPiles, GoalPiles;
     int TotalCards, CardsToWin;
     int Base = Ace;
-    int EmptyNum = -1;      ///< -1 any rank, -10 none
-    KindSet BaseKinds = 0;  ///< of the rank that the foundations start from
+    int EmptyNum = -1;       ///< -1 any rank, -10 none
+    KindSet BaseKinds = 0;   ///< of the rank that the foundations start from
+    KindSet EmptyTakes = 0;  ///< the kinds that an empty tableau pile takes
 
     // By kind A: the kinds that may lie on it in the tableau, inside a lifted run, on a foundation (of the
     // lower and of the upper half of the piles), and next to it in a run that leaves by itself.
@@ -68,6 +71,9 @@ struct Rules {
     std::array<std::array<KindSet, Kinds>, 2> GoalFits{};
     /// By kind: the number of its cards in the pack.
     std::array<std::uint8_t, Kinds> Copies{};
+    /// The kinds that are in each pack.
+    std::array<KindSet, 2> Packs{};
+    std::size_t PackCount = 1;
     /// By kind: the lowest kind that the rules cannot tell from it.
     std::array<std::uint8_t, Kinds> Alike{};
     /// By card: a random number, the same for cards that the rules cannot tell apart.
@@ -87,11 +93,14 @@ struct Rules {
     bool Returns;   ///< cards come back from the foundations
     bool Autoplay;  ///< cards that fit go to the foundations by themselves
 
+    bool FollowUps;  ///< something may happen by itself after a play, other than that a closed card opens
+
     StockMove Press;
     bool OpenStock;
     bool CanRedeal;  ///< a click on the stock's marker redeals, within the limit
     int Redeals;     ///< -1 no limit
     bool Gathers;    ///< a redeal gathers the tableau
+    bool DealsOnto;  ///< a press of the stock or a redeal may deal onto the piles
     /// Presses of the stock and redeals change nothing but which card lies on top of the waste, so that they
     /// can wait until that card is played.
     bool TalonFree;

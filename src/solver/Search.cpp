@@ -23,6 +23,7 @@ Result Search::SolvePosition(const Limits& limits) {
     rules_.TalonFree = talonFree_ && !Plain;
     met_.Clear();
     nodes_.Clear();
+    for (Memory& memory : memory_) memory.Number = NoNode;
     path_.clear();
     for (auto& stage : open_) {
         for (OpenList& level : stage) level.Clear();
@@ -37,7 +38,7 @@ Result Search::SolvePosition(const Limits& limits) {
     Node root;
     root.Inner = true;
     nodes_.Add(root);
-    path_.push_back({0, position_.Mark()});
+    path_.push_back({0, position_.Here()});
     std::vector<Move> first;
     position_.Trace = &first;
     PlaySafeCards();
@@ -49,7 +50,7 @@ Result Search::SolvePosition(const Limits& limits) {
         Expand(0);
     }
     result.Answer = Answer::Lost;
-    const std::size_t startOfPath = path_.front().Mark;
+    const Position::Mark startOfPath = path_.front().Before;
     while (won_ == NoNode) {
         // Each stage in its turn: positions of different stages look too different to be compared.
         std::size_t tried = 0;
@@ -74,11 +75,7 @@ Result Search::SolvePosition(const Limits& limits) {
 
 void Search::PlaySafeCards() {
     if (Plain) return;
-    while (!position_.Won()) {
-        const auto move = dominance_.SafeMove(position_);
-        if (!move) return;
-        position_.Make(*move);
-    }
+    for (Move move; !position_.Won() && dominance_.SafeMove(position_, move);) position_.Make(move);
 }
 
 void Search::MakeStep(const Node& node) {
@@ -96,12 +93,17 @@ void Search::GoTo(std::uint32_t node) {
     }
     const std::size_t kept = nodes_[node].Depth + std::size_t{1};
     if (kept < path_.size()) {
-        position_.TakeBack(path_[kept].Mark);
+        position_.TakeBack(path_[kept].Before);
         path_.resize(kept);
     }
     for (auto number = forward.rbegin(); number != forward.rend(); ++number) {
-        path_.push_back({*number, position_.Mark()});
-        MakeStep(nodes_[*number]);
+        path_.push_back({*number, position_.Here()});
+        const Memory& memory = memory_[nodes_[*number].Memory];
+        if (memory.Number == *number) {
+            position_.Repeat(memory.Effect);
+        } else {
+            MakeStep(nodes_[*number]);
+        }
     }
 }
 
@@ -157,20 +159,42 @@ bool Search::Expand(std::uint32_t node) {
     }
     // All children first, so that their places in the table are near when they are asked for.
     children_.clear();
-    const std::size_t mark = position_.Mark();
+    early_.clear();
+    const Position::Mark mark = position_.Here();
+    const std::uint64_t talon = Plain ? 0 : position_.TalonHash();
     for (std::size_t chain = 0; chain < list_.Count(); ++chain) {
-        for (const Move* move = list_.Begin(chain); move != list_.End(chain); ++move) position_.Make(*move);
+        const Move* const begin = list_.Begin(chain);
+        const bool single = !Plain && list_.End(chain) - begin == 1;
+        early_.push_back(single ? position_.HashAfter(*begin, talon) : 0);
+        met_.Prefetch(early_.back());
+    }
+    for (std::size_t chain = 0; chain < list_.Count(); ++chain) {
+        const Move* const begin = list_.Begin(chain);
+        const bool single = !Plain && list_.End(chain) - begin == 1;
+        if (early_[chain] != 0 && met_.Has(early_[chain])) continue;
+        for (const Move* move = begin; move != list_.End(chain); ++move) position_.Make(*move);
         PlaySafeCards();
-        children_.push_back({position_.Hash(), Worth(), Stage(), position_.CardsHome(), position_.Won()});
+        Child child{position_.Hash(),      chain,          false, nextMemory_, Worth(), Stage(),
+                    position_.CardsHome(), position_.Won()};
+        if (single && children_.size() < Memories) {
+            Memory& memory = memory_[nextMemory_++];
+            memory.Number = NoNode;
+            child.Remembered = position_.Remember(mark, memory.Effect);
+        }
+        children_.push_back(child);
         met_.Prefetch(children_.back().Hash);
         position_.TakeBack(mark);
     }
-    for (std::size_t chain = 0; chain < list_.Count(); ++chain) {
-        const Child& child = children_[chain];
+    for (const Child& child : children_) {
         if (!met_.Insert(child.Hash)) continue;
         std::uint32_t last = node;
-        for (const Move* move = list_.Begin(chain); move != list_.End(chain); ++move) {
-            last = AddNode(last, *move, move + 1 != list_.End(chain));
+        const Move* const end = list_.End(child.Chain);
+        for (const Move* move = list_.Begin(child.Chain); move != end; ++move) {
+            last = AddNode(last, *move, move + 1 != end);
+        }
+        if (child.Remembered) {
+            nodes_[last].Memory = child.Memory;
+            memory_[child.Memory].Number = last;
         }
         if (child.Won) {
             won_ = last;
@@ -206,7 +230,7 @@ std::vector<Move> Search::MovesTo(std::uint32_t node) {
     for (; node != 0; node = nodes_[node].Before) numbers.push_back(node);
     std::vector<Move> moves;
     position_.Trace = &moves;
-    const std::size_t mark = position_.Mark();
+    const Position::Mark mark = position_.Here();
     PlaySafeCards();
     for (auto number = numbers.rbegin(); number != numbers.rend(); ++number) MakeStep(nodes_[*number]);
     position_.Trace = nullptr;

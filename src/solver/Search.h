@@ -61,7 +61,7 @@ private:
 
     struct Step {
         std::uint32_t Number;
-        std::size_t Mark;  ///< of the position before the step
+        Position::Mark Before;
     };
 
     void PlaySafeCards();
@@ -72,11 +72,20 @@ private:
     /// A child of the position that is being looked into.
     struct Child {
         std::uint64_t Hash;
+        std::size_t Chain;
+        bool Remembered;  ///< its effect, in the memory
+        std::uint8_t Memory;
         int Worth;
         int Stage;
         int Level;
         bool Won;
     };
+    /// The effects of the latest moves: from most positions the search goes on soon.
+    struct Memory {
+        std::uint32_t Number = NoNode;
+        Position::Effect Effect;
+    };
+    static constexpr std::size_t Memories = 256;
     void Enqueue(const Child& child, std::uint32_t node);
     [[nodiscard]] std::uint32_t Next();
     [[nodiscard]] int Stage() const;
@@ -92,6 +101,9 @@ private:
     NodeStore nodes_;
     std::vector<Step> path_;
     std::vector<Child> children_;
+    std::vector<std::uint64_t> early_;
+    std::vector<Memory> memory_ = std::vector<Memory>(Memories);
+    std::uint8_t nextMemory_ = 0;
     std::vector<std::vector<OpenList>> open_;  ///< by stage and cards home
     std::vector<std::size_t> waiting_;         ///< by stage
     std::uint32_t won_ = NoNode;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 
 namespace Solver {
 
@@ -15,17 +16,9 @@ Move Play(int from, int to, int count = 1) {
             static_cast<std::uint8_t>(count)};
 }
 
-/// What a look at the tableau's tops tells of all moves onto it.
-struct Tops {
-    explicit Tops(const Position& position) : Kinds(position.HomeTops()), Empty(position.EmptyHome() > 0) {}
-    KindSet Kinds;
-    bool Empty;
-};
-
 /// Calls `visit` for the piles that a card may go to, one of each set of piles that are alike.
 template <typename Visit>
-void ForTargets(const Position& position, const Tops& tops, int kind, int from, int count, bool ordered,
-                Visit visit) {
+void ForTargets(const Position& position, int kind, int from, int count, bool ordered, Visit visit) {
     const Rules& rules = position.Game();
     if (count == 1 && Has(position.GoalTakes(), kind)) {
         for (int to = FirstGoal; to < FirstGoal + rules.GoalPiles; ++to) {
@@ -46,50 +39,63 @@ void ForTargets(const Position& position, const Tops& tops, int kind, int from, 
             if (!rules.Autoplay) return;
         }
     };
-    const bool intoEmpty = tops.Empty && position.EmptyHomeAccepts(kind, from);
-    if ((rules.HomeUnder[static_cast<std::size_t>(kind)] & tops.Kinds) == 0 && !intoEmpty) {
-        toCells();
-        return;
+    PileSet piles = position.HomeWith(rules.HomeUnder[static_cast<std::size_t>(kind)]);
+    // A pile that is moved whole to an empty place gains nothing.
+    const bool whole = IsHome(from) && count == position.Count(from) && !ordered;
+    if (!whole && position.EmptyHomeAccepts(kind, from)) {
+        const PileSet empty = position.EmptyHomePiles();
+        piles |= ordered ? empty : empty & (~empty + 1);  // all, or the first
     }
-    bool emptySeen = IsHome(from) && count == position.Count(from) && !ordered;  // a whole pile gains nothing
-    for (int to = FirstHome; to < FirstHome + rules.HomePiles; ++to) {
-        if (to == from) continue;
-        if (position.IsEmpty(to) && !ordered) {
-            if (emptySeen) continue;
-            emptySeen = true;
-        }
-        if (position.HomeAccepts(kind, from, to)) visit(to);
+    for (; piles != 0; piles &= piles - 1) {
+        const int to = std::countr_zero(piles);
+        if (to != from && position.HomeAccepts(kind, from, to)) visit(to);
     }
     toCells();
 }
 
-void AddFrom(const Position& position, const Tops& tops, int from, int count, bool ordered, MoveList& list) {
+/// The kinds that some place may take: one look at the table tells that most cards can go nowhere.
+KindSet Welcome(const Position& position) {
+    const Rules& rules = position.Game();
+    if (rules.FreeCells && position.EmptyRes() > 0) return ~KindSet{0};
+    KindSet kinds = position.GoalTakes();
+    for (KindSet tops = position.HomeTops(); tops != 0; tops &= tops - 1)
+        kinds |= rules.HomeFits[static_cast<std::size_t>(std::countr_zero(tops))];
+    return position.EmptyHome() > 0 ? kinds | rules.EmptyTakes : kinds;
+}
+
+void AddFrom(const Position& position, int from, int count, bool ordered, MoveList& list) {
     const int kind = KindOf(position.At(from, position.Count(from) - count).Card);
-    ForTargets(position, tops, kind, from, count, ordered, [&](int to) { list.Add(Play(from, to, count)); });
+    ForTargets(position, kind, from, count, ordered, [&](int to) { list.Add(Play(from, to, count)); });
 }
 
 }  // namespace
 
 void UsefulMoves(Position& position, const Dominance& dominance, MoveList& list) {
     const Rules& rules = position.Game();
-    const Tops tops(position);
+    const KindSet welcome = Welcome(position);
     // Where piles are served in their order, which pile is which counts.
     const bool ordered = rules.Autoplay || position.DealsOntoPiles();
-    for (int from = FirstHome; from < FirstHome + rules.HomePiles; ++from) {
-        const int most = position.LiftableCards(from);
-        for (int count = 1; count <= most; ++count) {
-            if (position.IsLiftable(from, count)) AddFrom(position, tops, from, count, ordered, list);
+    if (rules.MultiMove) {
+        for (int from = FirstHome; from < FirstHome + rules.HomePiles; ++from) {
+            const int most = position.LiftableCards(from);
+            for (int count = 1; count <= most; ++count) {
+                const int kind = KindOf(position.At(from, position.Count(from) - count).Card);
+                if (Has(welcome, kind) && position.IsLiftable(from, count))
+                    AddFrom(position, from, count, ordered, list);
+            }
         }
+    } else {
+        for (PileSet piles = position.HomeWith(welcome); piles != 0; piles &= piles - 1)
+            AddFrom(position, std::countr_zero(piles), 1, ordered, list);
     }
-    for (int from = FirstRes; from < FirstRes + rules.ResPiles; ++from) {
-        if (!position.IsEmpty(from)) AddFrom(position, tops, from, 1, ordered, list);
-    }
+    for (PileSet piles = position.ResWith(welcome); piles != 0; piles &= piles - 1)
+        AddFrom(position, std::countr_zero(piles), 1, ordered, list);
     const bool chained = dominance.ReturnsAreChained(position) && dominance.AddReturns(position, list);
     if (rules.Returns && !chained) {
         for (int from = FirstGoal; from < StockPile; ++from) {
             if (position.IsEmpty(from)) continue;
             const int kind = position.TopKind(from);
-            ForTargets(position, tops, kind, from, 1, ordered, [&](int to) {
+            ForTargets(position, kind, from, 1, ordered, [&](int to) {
                 if (!IsGoal(to) || dominance.GoalsExchange()) list.Add(Play(from, to));
             });
         }
@@ -98,10 +104,10 @@ void UsefulMoves(Position& position, const Dominance& dominance, MoveList& list)
         AddTalonPlays(position, NoChain, list);
         return;
     }
-    if (!position.IsEmpty(WastePile)) AddFrom(position, tops, WastePile, 1, ordered, list);
+    if (!position.IsEmpty(WastePile)) AddFrom(position, WastePile, 1, ordered, list);
     if (!position.IsEmpty(StockPile)) {
         if (rules.OpenStock) {
-            AddFrom(position, tops, StockPile, 1, ordered, list);
+            AddFrom(position, StockPile, 1, ordered, list);
         } else {
             list.Add({.What = Move::Kind::Press});
         }
@@ -114,9 +120,9 @@ void UsefulMoves(Position& position, const Dominance& dominance, MoveList& list)
 // between them.
 void AddTalonPlays(const Position& position, const std::vector<Move>& chain, MoveList& list, int only) {
     const Rules& rules = position.Game();
-    const Tops tops(position);
     const int waste = position.Count(WastePile);
     const int cards = waste + position.Count(StockPile);
+    if (cards == 0) return;
     const int step = rules.Press == StockMove::ThreeToWaste ? 3 : 1;
     const auto kindAt = [&](int cut) {
         return KindOf(cut <= waste ? position.At(WastePile, cut - 1).Card
@@ -143,7 +149,7 @@ void AddTalonPlays(const Position& position, const std::vector<Move>& chain, Mov
             };
             const int kind = kindAt(cut);
             if (only < 0) {
-                ForTargets(position, tops, kind, WastePile, 1, false, add);
+                ForTargets(position, kind, WastePile, 1, false, add);
             } else if (position.HomeAccepts(kind, WastePile, only)) {
                 add(only);
             }

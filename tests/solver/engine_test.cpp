@@ -49,7 +49,7 @@ std::string PlayBoth(const Definition& game, bool autoplay, int positions, std::
             if (moves.empty()) break;
             const Solver::Move move = moves[random() % moves.size()];
             // Taken back and made again it must come to the same.
-            const std::size_t mark = position.Mark();
+            const Solver::Position::Mark mark = position.Here();
             const std::uint64_t hash = position.Hash();
             position.Make(move);
             position.TakeBack(mark);
