@@ -147,8 +147,8 @@ Dominance::Dominance(const Rules& rules) : rules_(rules), chains_(AreChains(rule
     }
     alone_ = chains_ && !rules.Autoplay && !rules.DealsOnto &&
              (rules.Refill == AutoFill::None || rules.Refill == AutoFill::NoneEither);
-    // A card at home whose closure holds nothing but what came there before it is safe there always; that is to be
-    // told by the kinds where each comes after one card only.
+    // A card at home whose closure holds nothing but what came there before it is safe there always; that is
+    // to be told by the kinds where each comes after one card only.
     returnsOfUse_ = rules.TotalCards > Kinds;
     for (int kind = 0; kind < Kinds; ++kind) {
         KindSet home = Only(kind);

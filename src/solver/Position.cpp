@@ -302,7 +302,7 @@ void Position::ClickMarker() {
     }
     // From the top of the waste on: the stock is taken from its top.
     const int count = Count(WastePile);
-    Remove(WastePile, count);
+    if (count > 0) Remove(WastePile, count);
     for (int place = count; place-- > 0;) Lay(StockPile, At(WastePile, place).Card);
 }
 

@@ -72,8 +72,6 @@ public:
     [[nodiscard]] int CardsInRes() const { return now_.Cards[InRes]; }
     /// The kinds that lie on top in the tableau.
     [[nodiscard]] KindSet HomeTops() const { return now_.Tops[InHome][0] | now_.Tops[InHome][1]; }
-    /// The same of the reserve.
-    [[nodiscard]] KindSet ResTops() const { return now_.Tops[InRes][0] | now_.Tops[InRes][1]; }
     /// The piles of the tableau on which a card of one of these kinds lies on top.
     [[nodiscard]] PileSet HomeWith(KindSet kinds) const { return PilesWith(InHome, kinds); }
     /// The same of the reserve.

@@ -157,7 +157,9 @@ bool Search::Expand(std::uint32_t node) {
     } else {
         UsefulMoves(position_, dominance_, list_);
     }
-    // All children first, so that their places in the table are near when they are asked for.
+    // All children first, so that their places in the table are near when they are asked for. A child that
+    // was met as it lies before its safe cards are played need not be made: all that it leads to was reached
+    // from there.
     children_.clear();
     early_.clear();
     const Position::Mark mark = position_.Here();

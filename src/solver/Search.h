@@ -37,7 +37,8 @@ struct Result {
 class Search {
 public:
     /// What a state takes at most: 16 of its node, up to 22 of its slot in the table and 11 of the table
-    /// before that grew. Besides come the open lists, some megabytes however many states there are.
+    /// before that grew. Besides come the open lists and the marks on the way to the position, some megabytes
+    /// however many states there are.
     static constexpr std::size_t BytesPerState = 56;
 
     Search(const cGames& game, Switches switches);

@@ -12,6 +12,15 @@ Weights::Weights(const Rules& rules) {
         EmptyPile = 24;
         EmptyCell = 32;
         Bottom = 32;
+    } else if (!rules.RunsLeave) {
+        Home = 56;
+        Covering = -28;
+        Pair = 19;
+        Lifted = 12;
+        EmptyPile = 8;
+        EmptyCell = 19;
+        Bottom = 36;
+        Depth = -16;
     }
     // A run that leaves takes the worth of its pairs along: its cards must be worth more at home.
     if (rules.RunsLeave) {
