@@ -126,10 +126,11 @@ TEST(SolverSearch, LosesNoAnswerByWhatItLeavesOut) {
     int won = 0;
     int lost = 0;
     const auto rounds = static_cast<std::uint32_t>(std::max(1, Rounds()));
+    std::uint32_t turn = 0;  // all kinds of rules come in one round, too
     for (const Definition* game : SomeGames(1)) {
         const cGames numbers = Solver::NumbersOf(*game);
-        for (std::uint32_t round = 0; round < rounds; ++round) {
-            Search search(numbers, {.NoReturn = round % 3 == 1, .SingleCards = round % 5 == 4});
+        for (std::uint32_t round = 0; round < rounds; ++round, ++turn) {
+            Search search(numbers, {.NoReturn = turn % 3 == 1, .SingleCards = turn % 5 == 4});
             const mDeal::Opening opening = mDeal::Deal(numbers, round + 1);
             search.Plain = true;
             const Endgame plainTable(search, opening, round);

@@ -3,7 +3,6 @@
 
 #include "engine/commands/mLoad.h"
 #include "engine/commands/mSelect.h"
-#include "engine/records/mPlayers.h"
 #include "support/EngineTest.h"
 
 namespace {
@@ -13,27 +12,6 @@ protected:
     std::string& Stored(const std::string& key) { return engine_.Layer.Settings.Values[key]; }
     Engine engine_;
 };
-
-TEST_F(Settings, Players) {
-    EXPECT_EQ(gData->TotalPlayers(), 1);
-    EXPECT_EQ(Stored("Users/1"), "Player1");
-    EXPECT_EQ(Stored("Users/100"), "Player1");
-    gData->SetPlayer(3, "Ann", true);
-    gData->SetPlayer(20, "Zoe", false);
-    EXPECT_EQ(gData->TotalPlayers(), 3) << "a free slot ends nothing";
-    EXPECT_EQ(gData->CurPlayer(), "Ann");
-    EXPECT_EQ(gData->GetPlayer(2), "");
-    const std::vector<std::string> shown = {"Player1", "Ann"};
-    EXPECT_EQ(mPlayers::Names(), shown) << "slots 1 to the count";
-}
-
-TEST(FirstRun, AStoredPlayerIsKept) {
-    MemoryLayer layer;
-    layer.Settings.Values["Users/4"] = "Zoe";
-    cData data(layer.Layer());
-    EXPECT_EQ(data.TotalPlayers(), 1);
-    EXPECT_EQ(data.CurPlayer(), "");
-}
 
 TEST(FirstRun, AFolderThatCannotBeMadeIsTold) {
     MemoryLayer layer;
