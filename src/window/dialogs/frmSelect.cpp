@@ -194,9 +194,10 @@ void frmSelect::ShowSelection() {
     lblName->setText(text);
     const std::string game = text.toStdString();
     const Definition* definition = mFamilies::Find(game);
-    lblFacts->setText(definition
-                          ? QString::fromStdString(mRulesWins::Facts(*definition, mWinnability::Find(game)))
-                          : QString());
+    QString facts;
+    if (definition) facts = QString::fromStdString(mRulesWins::Facts(*definition, mWinnability::Find(game)));
+    // A dot between two facts may end a line, but begins none.
+    lblFacts->setText(facts.replace(QStringLiteral(" \u00b7"), QStringLiteral("\u00a0\u00b7")));
     imgPick->setPixmap(QPixmap::fromImage(
         mTablePicture::Preview(text.toStdString(), imgPick->size(), imgPick->devicePixelRatioF())));
 }

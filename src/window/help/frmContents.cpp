@@ -67,7 +67,7 @@ void frmContents::BuildControls() {
     tvwContents_->setAccessibleName(tr("Contents"));
     tvwContents_->setHeaderLabel(tvwContents_->accessibleName());  // read, though it is hidden
     tvwContents_->setHeaderHidden(true);
-    // A title that is wider than the tree is scrolled to, not cut.
+    // A title that is wider than the tree, once it was made narrower, is scrolled to and not cut.
     tvwContents_->header()->setStretchLastSection(false);
     tvwContents_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
     lblNothing_ = new QLabel(tr("Nothing holds all of these words."));
@@ -96,17 +96,15 @@ void frmContents::BuildControls() {
     row->addStretch();
     row->addWidget(close);
 
-    auto* parts = new QSplitter;
-    parts->addWidget(left);
-    parts->addWidget(browser_);
-    parts->setStretchFactor(1, 1);
-    parts->setChildrenCollapsible(false);
-    const int letter = fontMetrics().averageCharWidth();
-    parts->setSizes({letter * 36, letter * 84});
+    parts_ = new QSplitter;
+    parts_->addWidget(left);
+    parts_->addWidget(browser_);
+    parts_->setStretchFactor(1, 1);
+    parts_->setChildrenCollapsible(false);
     auto* all = new QVBoxLayout(this);
-    all->addWidget(parts, 1);
+    all->addWidget(parts_, 1);
     all->addLayout(row);
-    mDialog::FirstSize(this, {letter * 124, fontMetrics().height() * 38});
+    mDialog::FirstSize(this, {fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 38});
 }
 
 void frmContents::FillTree() {
@@ -124,7 +122,14 @@ void frmContents::FillTree() {
             Entry(group, QString::fromStdString(mRules::Name(id)), QStringLiteral("game:%1").arg(id));
         }
     }
+    // Room for every title, also for those that are still folded away.
+    tvwContents_->expandAll();
+    tvwContents_->resizeColumnToContents(0);
+    const int widest = tvwContents_->columnWidth(0) + 2 * tvwContents_->frameWidth() +
+                       style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, tvwContents_);
+    tvwContents_->collapseAll();
     general->setExpanded(true);
+    parts_->setSizes({widest, width() - widest});
 }
 
 void frmContents::Search() {

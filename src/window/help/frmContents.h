@@ -6,6 +6,7 @@
 class HelpBrowser;
 class QLabel;
 class QLineEdit;
+class QSplitter;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -24,6 +25,7 @@ private:
 
     QLineEdit* txtSearch_ = nullptr;
     QLabel* lblNothing_ = nullptr;  ///< says that a search found nothing
+    QSplitter* parts_ = nullptr;
     QTreeWidget* tvwContents_ = nullptr;
     HelpBrowser* browser_ = nullptr;
 };

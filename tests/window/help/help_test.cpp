@@ -34,8 +34,10 @@ TEST_F(HelpWindows, RulesAndContentsOpenFollowLinksAndClose) {
     const QWidget* contents = Window("frmContents");
     ASSERT_NE(contents, nullptr);
     Find<QTextBrowser>(*contents, "helpPage")->setSource(QUrl(QStringLiteral("game:801")));
-    const auto* tree = Find<QTreeWidget>(*contents, "tvwContents");
+    auto* tree = Find<QTreeWidget>(*contents, "tvwContents");
     ASSERT_NE(tree->currentItem(), nullptr);
+    tree->expandAll();
+    EXPECT_FALSE(tree->horizontalScrollBar()->isVisible()) << "all titles have room";
     EXPECT_TRUE(Page(contents).startsWith(tree->currentItem()->text(0) + QLatin1Char('\n')));
     help_.CloseAll();
     EXPECT_FALSE(Window("frmRules") || Window("frmContents"));
