@@ -1,6 +1,6 @@
 // Two programs on one home, killed now and then: whatever they do to the players, every record that was
-// confirmed is in exactly one player's view, every score file has an owner, and no favourite or setting is
-// lost.
+// confirmed is in exactly one player's view, every score file has an owner, no favourite or setting is lost,
+// and nothing is imported twice.
 //
 // TARNIVAL_STEPS and TARNIVAL_KILLS in the environment set how long that goes on; by default it is short.
 #include <atomic>
@@ -10,6 +10,7 @@
 #include <map>
 #include <random>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,7 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include "engine/records/ImportedRecords.h"
 #include "engine/records/mPlayers.h"
 #include "engine/records/mStrayFiles.h"
 #include "support/Child.h"
@@ -156,6 +158,26 @@ private:
     PlayerList seen_;
 };
 
+/// A number that a program and its children have in common.
+class SharedNumber {
+public:
+    SharedNumber()
+        : place_(::mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS,
+                        -1, 0)) {
+        if (place_ == MAP_FAILED) throw std::runtime_error("no memory to share");
+        number_ = new (place_) std::atomic<int>(0);
+    }
+    ~SharedNumber() { ::munmap(place_, sizeof(std::atomic<int>)); }
+    SharedNumber(const SharedNumber&) = delete;
+    SharedNumber& operator=(const SharedNumber&) = delete;
+
+    std::atomic<int>& operator*() const { return *number_; }
+
+private:
+    void* place_;
+    std::atomic<int>* number_;
+};
+
 class TwoPrograms : public testing::Test {
 protected:
     void SetUp() override {
@@ -199,13 +221,36 @@ void ExpectKept(const std::vector<std::string>& confirmed, const std::vector<std
     EXPECT_EQ(lost, 0) << "of " << confirmed.size();
 }
 
+TEST_F(TwoPrograms, ImportTheSameRecordsOnce) {
+    constexpr int Files = 40;
+    SharedNumber arrived;
+    const auto import = [&] {
+        const Program program;
+        for (int number = 1; number <= Files; ++number) {
+            const std::string path = gData->AppDir() + std::to_string(::getpid());
+            std::ofstream(path) << R"("2004-01-05 22:10:33","Klondike",)" << number << ",5,5,6,1\r\n";
+            ImportedRecords records;
+            if (!records.Read(path)) return false;
+            ++*arrived;  // both at once
+            while (*arrived < 2 * number) {
+            }
+            if (!records.AddTo("Player1", "")) return false;
+        }
+        return true;
+    };
+    const pid_t programs[] = {StartChild(import), StartChild(import)};
+    for (const pid_t program : programs) EXPECT_EQ(EndOf(program), 0);
+    const Program program;
+    std::vector<std::string> all;
+    for (int number = 1; number <= Files; ++number) all.push_back(std::to_string(number));
+    EXPECT_EQ(Numbers(cScore::FileName("Player1")), all);
+}
+
 TEST_F(TwoPrograms, LoseNothingOfEachOther) {
     const int steps = FromEnvironment("TARNIVAL_STEPS", 200);
     const int kills = FromEnvironment("TARNIVAL_KILLS", 6);
-    void* shared =
-        ::mmap(nullptr, sizeof(std::atomic<int>), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
-    ASSERT_NE(shared, MAP_FAILED);
-    auto& step = *new (shared) std::atomic<int>(0);
+    SharedNumber shared;
+    std::atomic<int>& step = *shared;
 
     std::mt19937 random(20041101);  // NOLINT: the same plan at every run
     const auto start = [&](char letter) {
@@ -259,7 +304,6 @@ TEST_F(TwoPrograms, LoseNothingOfEachOther) {
     EXPECT_THAT(program.Messages(), IsEmpty());
     std::printf("%d steps, %d kills: %zu records and %zu favourites confirmed, %zu and %zu of them deleted\n",
                 steps, kills, told['R'].size(), told['F'].size(), told['r'].size(), told['f'].size());
-    ::munmap(shared, sizeof(std::atomic<int>));
 }
 
 }  // namespace
