@@ -32,7 +32,7 @@ enter() {
         mount -t tmpfs tmpfs "$system/dev/shm"
         exec chroot "$system" env -i PATH=/usr/local/bin:/usr/bin:/bin:/usr/sbin:/sbin LC_ALL=C.UTF-8 TERM=dumb \
             setpriv --reuid="$user" --regid="$user" --init-groups --reset-env \
-            bash -c "export CCACHE_NOHASHDIR=1; cd && $line"' enter "$system" "$user" "$*"
+            bash -c "export CCACHE_NOHASHDIR=1 CCACHE_UMASK=000; cd && $line"' enter "$system" "$user" "$*"
 }
 
 # make_system <release> <folder>: a minimal system with a user who may become root.
@@ -57,7 +57,7 @@ copy_checkout() {
     mkdir -p "$target"
     git ls-files -z --cached --others --exclude-standard --deduplicate |
         tar --create --null --files-from=- --ignore-failed-read --warning=no-failed-read | tar --extract --directory "$target"
-    # What the first run has compiled, the second takes from there.
+    # What the first run has compiled, the second takes from there, and each may write there.
     mkdir -p "$target/build" "$1/var/cache/matrix"
     ln -s /var/cache/matrix "$target/build/ccache"
     chmod 1777 "$1/var/cache/matrix"
