@@ -210,13 +210,13 @@ void Hide() {
 
 std::vector<Offer> Offers(const Stop& stop) {
     if (!Running() || mMain::InHand() == mMain::Hand::Mouse) return {};
-    const bool onTop = stop.Pos < 0 || stop == mFrame::TopOf(stop.Pile);
+    const bool atTop = stop.Pos < 0 || stop == mFrame::TopOf(stop.Pile);
     if (Holding()) {
         const bool takes = stop.Pile == Source() || mFunc::Accepts(mMain::CardInHand(), gDrag.gPickCount,
                                                                    stop.Pile.Cell, stop.Pile.Pile);
-        return onTop && takes ? std::vector{Offer::Drop} : std::vector<Offer>{};
+        return atTop && takes ? std::vector{Offer::Drop} : std::vector<Offer>{};
     }
-    if (IsClosedStock(stop.Pile) && onTop && mReader::Count(stop.Pile) > 0) return {Offer::Deal};
+    if (IsClosedStock(stop.Pile) && atTop && mReader::Count(stop.Pile) > 0) return {Offer::Deal};
     if (stop.Pile.Cell == Stock && mReader::Count(stop.Pile) == 0 && mPlay::MayRedeal()) {
         return {Offer::Redeal};
     }
