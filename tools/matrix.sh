@@ -127,6 +127,7 @@ try_package() {
     enter "$clean" root "apt-get -q update && apt-get -qq install -y --no-install-recommends /tmp/tarnival.deb" \
         >>"$log" 2>&1 || return 1
     program=$(sed -n 's/^Exec=//p' "$clean/usr/share/applications/tarnival.desktop")
+    rm -f "$clean.display"
     Xvfb -displayfd 1 -screen 0 1280x900x24 -nolisten tcp >"$clean.display" 2>/dev/null &
     server=$!
     until_true 10 test -s "$clean.display"
