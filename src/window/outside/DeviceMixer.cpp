@@ -39,6 +39,14 @@ class DeviceMixer : public QObject, public SoundMixer {
     Q_PLUGIN_METADATA(IID "tarnival.SoundMixer")
     Q_INTERFACES(SoundMixer)
 public:
+    DeviceMixer() {
+        // Qt's player of videos, which comes with the sound, would look for devices that decode and encode
+        // them, and the libraries of those that are missing say so on the terminal.
+        for (const char* devices :
+             {"QT_FFMPEG_DECODING_HW_DEVICE_TYPES", "QT_FFMPEG_ENCODING_HW_DEVICE_TYPES"}) {
+            if (!qEnvironmentVariableIsSet(devices)) qputenv(devices, ",");
+        }
+    }
     void Play(const QString& wave) override {
         const QAudioDevice device = QMediaDevices::defaultAudioOutput();
         if (device.isNull() || voices_ >= MostVoices) return;

@@ -149,6 +149,7 @@ void frmMain::BuildMenus() {
 void frmMain::BuildToolbar() {
     constexpr int IconSize = 16;
     Toolbar1 = addToolBar(QStringLiteral("Toolbar"));
+    Toolbar1->setAccessibleName(Toolbar1->windowTitle());  // which newer versions of Qt do not read
     Toolbar1->setObjectName(QStringLiteral("Toolbar1"));
     Toolbar1->setMovable(false);
     Toolbar1->setIconSize(QSize(IconSize, IconSize));
