@@ -14,9 +14,10 @@
 // card of S in the tableau (or continue a lifted run on it), and, where cards come back, all that come before
 // a card of S on the foundations. Cards of S that are at home now need not be followed further where nothing
 // comes back. Let each other card of S be at home, or have all cards that come before it at home: it could
-// follow as soon as it is on top. Then playing c at once loses nothing. Proof: take any line L that wins from
-// the position P, and let P' be P with c home. Follow L from P' so that the position is always that of L with
-// a subset H of S home besides.
+// follow as soon as it is on top; and so be all cards that come before c, unless c is the last of its class
+// that is away: else c might take the place of a card like it. Then playing c at once loses nothing. Proof:
+// take any line L that wins from the position P, and let P' be P with c home. Follow L from P' so that the
+// position is always that of L with a subset H of S home besides.
 //    - Cards of H lie in L on their piles only under cards of H: c lies on top in P, and what L lays on a
 //      card of H, or brings back, joins H (below). So taking H out leaves every pile of L a lower part of
 //      itself, and with it the face, the place and the neighbours of every other card.
@@ -56,10 +57,15 @@
 // back too. Moves before that are as legal with c still at home: piles are only shorter and places emptier.
 // So c may come back just before. If c goes home again first, both moves are left out; if c moves on, alone
 // or on top of a run, it comes back straight to where it lies last. If a like card c' goes home in its place,
-// c' can go at once where c went. So only chains matter: cards come back, each to be laid upon or to free the
-// one below it, until a card is laid on the last; a card that comes back to a free cell can only free the one
-// below it. None of this makes a line longer. A card that comes back and is safe there would go home at once,
-// and loses nothing by that: it need not come.
+// c' can go at once where c went. So only trees of returns matter: a card comes back just before the return
+// that lays a card on it, or that of the card below it, and the last of a tree just before a card is laid on
+// it; a card that comes back to a free cell can only free the one below it. Where a return needs two others,
+// one to lay its card on and one to free it, the first comes first, with all that it needs: what it changes
+// are places that the second does not need, or it would be one of its own. So each tree is a row of chains: a
+// card comes back, the next is laid on it or was below it, and so on, until a card is laid on the last, or
+// until the next has still to be freed from under the cards on another foundation. Then the chain ends with
+// the place for it. None of this makes a line longer. A card that comes back and is safe there would go home
+// at once, and loses nothing by that: it need not come.
 //
 // None of them makes a line longer, so that a search that follows all meets a shorter way to win at each move
 // that it chooses.
@@ -90,7 +96,11 @@ bool AreChains(const Rules& rules) {
     const KindSet pack = InPack(rules);
     std::array<KindSet, Kinds> likes{};
     for (int kind = 0; kind < Kinds; ++kind) {
-        if (Has(pack, kind)) likes[rules.Alike[Index(kind)]] |= Only(kind);
+        if (!Has(pack, kind)) continue;
+        KindSet& like = likes[rules.Alike[Index(kind)]];
+        like |= Only(kind);
+        // Which cards the foundations can hold would depend on which pile holds which.
+        if (rules.OwnBases && (rules.Copies[Index(kind)] > 1 || !std::has_single_bit(like))) return false;
     }
     KindSet seen = 0;
     for (int kind = 0; kind < Kinds; ++kind) {
@@ -101,6 +111,13 @@ bool AreChains(const Rules& rules) {
         seen |= next;
     }
     return true;
+}
+
+bool LiesBelowTop(const Position& position, int pile, KindSet kinds) {
+    for (int place = position.Count(pile) - 2; place >= 0; --place) {
+        if (Has(kinds, KindOf(position.At(pile, place).Card))) return true;
+    }
+    return false;
 }
 
 // Whether each card fits on one card only, that one takes no other and comes right after it at home, and
@@ -130,6 +147,9 @@ Dominance::Dominance(const Rules& rules) : rules_(rules), chains_(AreChains(rule
     const KindSet pack = InPack(rules);
     for (int a = 0; a < Kinds; ++a) {
         if (!Has(pack, a)) continue;
+        for (int b = 0; b < Kinds; ++b) {
+            if (Has(pack, b) && rules.Alike[Index(b)] == rules.Alike[Index(a)]) likes_[Index(a)] |= Only(b);
+        }
         above_[Index(a)] = (rules.HomeFits[Index(a)] | rules.LiftFits[Index(a)]) & pack;
         for (int b = 0; b < Kinds; ++b) {
             if (Has(rules.GoalFits[0][Index(a)] & pack, b)) before_[Index(b)] |= Only(a);
@@ -178,11 +198,14 @@ bool Dominance::TableauAlone(const Position& position) const {
 }
 
 bool Dominance::IsSafe(const Position& position, int kind) const {
+    const bool alone =
+        rules_.Copies[Index(kind)] == 1 && (likes_[Index(kind)] & ~position.AllHome() & ~Only(kind)) == 0;
     const KindSet away =
         ~position.AllHome() | Only(kind);  // asked of cards at home as well: they would be away
     const auto follows = [&](int other) {
         return RankOf(other) == rules_.Base || (before_[Index(other)] & away) == 0;
     };
+    if (!alone && !follows(kind)) return false;
     if (rules_.Returns) {
         for (KindSet left = closure_[Index(kind)] & away; left != 0; left &= left - 1) {
             if (!follows(std::countr_zero(left))) return false;
@@ -324,11 +347,15 @@ void Dominance::Use(Position& position, int goal, int pile, MoveList& list, Chai
     if (!position.IsEmpty(WastePile)) lay(WastePile, 1);
     if (rules_.OpenStock && !position.IsEmpty(StockPile)) lay(StockPile, 1);
     if (rules_.TalonFree) AddTalonPlays(position, chain.Moves, list, pile);
-    // A card of another foundation pile laid on it goes on the chain.
+    // A card of another foundation pile laid on it goes on the chain. One that lies deeper has to be freed
+    // first, for which other chains begin anew.
+    bool waits = false;
     for (int other = FirstGoal; other < FirstGoal + rules_.GoalPiles; ++other) {
         if (other == goal || position.IsEmpty(other)) continue;
         const int kind = position.TopKind(other);
-        if (!Has(fits, kind) || IsSafe(position, kind) || !position.HomeAccepts(kind, other, pile)) continue;
+        if (IsSafe(position, kind)) continue;
+        waits = waits || LiesBelowTop(position, other, fits);
+        if (!Has(fits, kind) || !position.HomeAccepts(kind, other, pile)) continue;
         const Move move{Move::Kind::Play, static_cast<std::uint8_t>(other), static_cast<std::uint8_t>(pile),
                         1};
         if (--chain.Left < 0) return;
@@ -339,6 +366,7 @@ void Dominance::Use(Position& position, int goal, int pile, MoveList& list, Chai
         chain.Moves.pop_back();
         position.TakeBack(mark);
     }
+    if (waits) list.Add(chain.Moves);
 }
 
 }  // namespace Solver

@@ -16,11 +16,11 @@ public:
     /// Whether there is a move that can be made now without spoiling anything: of a card to the foundations,
     /// or of cards to the one place where they fit.
     [[nodiscard]] bool SafeMove(const Position& position, Move& move) const;
-    /// Whether cards come back from foundations only for an immediate use.
+    /// Whether cards come back from foundations only in chains, for a use that follows.
     [[nodiscard]] bool ReturnsAreChained(const Position& position) const;
-    /// Adds those chains: cards come back, and a card goes onto the last of them. False, and nothing added,
-    /// where there are too many: then every return is to be tried for itself, which leaves nothing out
-    /// either.
+    /// Adds those chains: cards come back, and a card goes onto the last of them or has still to be freed for
+    /// that. False, and nothing added, where there are too many: then every return is to be tried for itself,
+    /// which leaves nothing out either.
     bool AddReturns(Position& position, MoveList& list) const;
     /// Whether a move from one foundation pile to another can be of use.
     [[nodiscard]] bool GoalsExchange() const { return !chains_; }
@@ -44,6 +44,7 @@ private:
     bool returnsOfUse_ = false;  ///< whether a card that comes back may be of use
     bool onePlace_ = false;  ///< each card has one place in the tableau, on the card that goes home after it
     std::array<KindSet, Kinds> before_{};  ///< by kind: what it may lie on at home
+    std::array<KindSet, Kinds> likes_{};   ///< by kind: it and those that the rules cannot tell from it
     /// By kind: what may lie on it in the tableau.
     std::array<KindSet, Kinds> above_{};
     /// By kind, where cards come back: all that may be laid on it, on that, and so on, with what comes

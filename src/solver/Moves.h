@@ -21,10 +21,14 @@ public:
         moves_.push_back(move);
         ends_.push_back(moves_.size());
     }
-    /// A chain of moves.
+    /// Chains of moves.
     void Add(const std::vector<Move>& before, const Move& last) {
         moves_.insert(moves_.end(), before.begin(), before.end());
         Add(last);
+    }
+    void Add(const std::vector<Move>& chain) {
+        moves_.insert(moves_.end(), chain.begin(), chain.end());
+        ends_.push_back(moves_.size());
     }
     /// Leaves the first `count` chains.
     void CutTo(std::size_t count) {

@@ -56,6 +56,7 @@ Rules::Rules(const cGames& game, Switches switches)
       RunsLeave(game.GameType() == GameType::CompleteRuns),
       RunTop(game.GoalType() == GoalType::Kings ? King : Ace),
       GoalDiv(game.GoalDiv()),
+      OwnBases(game.GoalType() == GoalType::OneOfEachSuit),
       UpDown(game.GoalUpDown()),
       FreeCells(game.ResNum() == ResFreeCells),
       FillFromStock(game.EmptyFillType() == EmptyFillType::FromStock),

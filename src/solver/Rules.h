@@ -84,6 +84,7 @@ struct Rules {
     bool RunsLeave;      ///< complete runs leave, nothing is dropped on a foundation
     int RunTop;          ///< the rank on top of a complete run
     int GoalDiv;         ///< see cGames
+    bool OwnBases;       ///< each foundation begins with a rank of its own
     bool UpDown;         ///< the upper half of the foundations builds by another rule
     bool FreeCells;      ///< a single card may be dropped on an empty reserve pile
     bool FillFromStock;  ///< an empty tableau pile takes cards of stock and waste only
