@@ -38,6 +38,7 @@
 #include "window/look/mIcons.h"
 #include "window/look/mPictures.h"
 #include "window/outside/QtCalendar.h"
+#include "window/outside/mModules.h"
 #include "window/table/ProgramLayer.h"
 #include "window/table/TableView.h"
 #include "window/table/frmMain.h"
@@ -185,6 +186,8 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Tarnival"));
     QApplication::setWindowIcon(mIcons::Application());
 
+    // What its libraries keep is there before the first session, and not with the first chart.
+    (void)mModules::Load("tarnival-charts.so");
     std::printf("seed %u, %d seconds\n", options.Seed, options.Seconds);
     mDiary::Open(options.Seed);
     Monkey monkey(options.Seed);
