@@ -68,7 +68,9 @@ class Player:
     def listen(self):
         for kind, thing, on in self.reader.heard():
             try:
-                if kind.startswith("object:state-changed:showing") and role_of(thing) == "notification":
+                # Newer versions of Qt announce a sentence, older ones show a notification.
+                spoken = kind.startswith(("object:announcement", "object:state-changed:showing"))
+                if spoken and role_of(thing) == "notification":
                     self.said.append(thing.get_name())
                 elif kind.startswith("object:state-changed:focused") and on:
                     self.place = f"{thing.get_name()}, {thing.get_description()}".lower()

@@ -69,7 +69,7 @@ class Reader:
         self.listener = Atspi.EventListener.new(
             lambda event: self.events.append((event.type, event.source, event.detail1)))
         for kind in ("object:children-changed", "object:property-change:accessible-name",
-                     "object:state-changed:focused", "object:state-changed:showing"):
+                     "object:state-changed:focused", "object:state-changed:showing", "object:announcement"):
             self.listener.register(kind)
 
     def program(self, name):
