@@ -4,8 +4,7 @@
 
 A deal is asked for out of the menu of a list: the question, the end of the dialog and the deal come while the menu's
 own event is still at work, in an order that only the real program has.
-
-Run by hand: now and then the window manager leaves the main window without the keyboard behind the dialogs.
+The table must have the keyboard behind all of them.
 """
 
 import os

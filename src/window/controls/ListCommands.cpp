@@ -49,9 +49,13 @@ QString OneLine(QString text) {
 
 /// Closes the dialog of a view, and those that it was opened from.
 void CloseDialogs(const QWidget* view) {
-    for (const QWidget* part = view; part; part = part->window()->parentWidget()) {
-        if (auto* dialog = qobject_cast<QDialog*>(part->window())) dialog->reject();
+    QWidget* last = nullptr;
+    for (QWidget* window = view->window(); window; window = window->parentWidget()) {
+        window = last = window->window();
+        if (auto* dialog = qobject_cast<QDialog*>(window)) dialog->reject();
     }
+    // Of windows that close at once not every window manager hands the keyboard on.
+    last->activateWindow();
 }
 
 }  // namespace
