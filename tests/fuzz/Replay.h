@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "fuzz/Targets.h"
+#include "tools/fuzz/Targets.h"
 
 namespace mFuzz {
 

@@ -1,8 +1,8 @@
 // The fuzzer's kept inputs for what lies on a real disk.
 #include <gtest/gtest.h>
 
-#include "fuzz/HomeTargets.h"
 #include "fuzz/Replay.h"
+#include "tools/fuzz/HomeTargets.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // The targets, each with what must hold whatever the bytes are.
-#include "fuzz/Targets.h"
+#include "tools/fuzz/Targets.h"
 
 #include <algorithm>
 #include <string>

@@ -5,7 +5,7 @@
 #include <array>
 #include <string_view>
 
-#include "fuzz/Targets.h"
+#include "tools/fuzz/Targets.h"
 
 namespace mFuzz {
 

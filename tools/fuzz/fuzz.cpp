@@ -4,9 +4,9 @@
 #include <string_view>
 
 #ifdef HOME_TARGET
-#include "fuzz/HomeTargets.h"
+#include "tools/fuzz/HomeTargets.h"
 #else
-#include "fuzz/Targets.h"
+#include "tools/fuzz/Targets.h"
 #endif
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,5 +1,5 @@
 // The targets on a real disk.
-#include "fuzz/HomeTargets.h"
+#include "tools/fuzz/HomeTargets.h"
 
 #include <algorithm>
 #include <array>
