@@ -102,17 +102,17 @@ bool Position::IsSettled(int kind, const Entry& below, bool bottom) const {
 
 // What is known of a pile is known up to each card, so that a card that leaves takes its part along. The
 // entry lies right above that of the card below.
-inline void Position::Fill(Entry& entry, Group group, bool bottom, Card card) const {
+inline void Position::Fill(Entry& entry, Group group, bool bottom, int card) const {
     const Entry& below = *(&entry - 1);
-    entry.Card = card;
+    entry.Card = static_cast<Card>(card);
     entry.Place = static_cast<std::uint8_t>(below.Place + 1);
-    entry.Hash = Mixed(below.Hash + rules_->Key[card]);
+    entry.Hash = Mixed(below.Hash + rules_->Key[Index(card)]);
     if (group != InHome) {
         entry.Worth = 0;
         entry.Settled = false;
         return;
     }
-    const int kind = KindOf(card);
+    const int kind = card & KindBits;
     const std::uint8_t steps = weights_->Steps[Index(kind)];
     int worth = below.Worth;
     if (below.Low < steps) worth += weights_->Covering;
@@ -123,8 +123,9 @@ inline void Position::Fill(Entry& entry, Group group, bool bottom, Card card) co
     if (bottom) {
         if (steps == RankCount - 1) worth += weights_->Bottom;
     } else {
-        const int under = KindOf(below.Card);
-        const bool open = (below.Card & Closed) == 0;
+        const int lower = below.Card;
+        const int under = lower & KindBits;
+        const bool open = (lower & Closed) == 0;
         if (Has(rules_->HomeFits[Index(under)], kind) && open) worth += weights_->Pair;
         if (Has(rules_->LiftFits[Index(under)], kind)) {
             entry.Lifted = static_cast<std::uint8_t>(below.Lifted + 1);
@@ -139,13 +140,13 @@ inline void Position::Fill(Entry& entry, Group group, bool bottom, Card card) co
     entry.Worth = static_cast<std::int16_t>(worth);
 }
 
-[[gnu::always_inline]] inline void Position::Lay(int pile, Card card) {
+[[gnu::always_inline]] inline void Position::Lay(int pile, int card) {
     const Group group = groups_[Index(pile)];
     const int before = now_.Counts[Index(pile)]++;
     const Entry& below = piles_[Index(pile)][Index(before)];
     Entry& top = piles_[Index(pile)][Index(before + 1)];
     Fill(top, group, before == 0, card);
-    where_[card & (KindBits | SecondDeck)] = {static_cast<std::uint8_t>(pile), top.Place};
+    where_[Index(card & (KindBits | SecondDeck))] = {static_cast<std::uint8_t>(pile), top.Place};
     ++now_.Cards[group];
     NoteUse(group, pile, before == 0 ? 1 : 0);
     ToggleTop(group, below, before != 0 ? AllKinds : 0);
@@ -217,21 +218,21 @@ void Position::Repeat(const Effect& effect) {
 // The cards keep their order and lie open afterwards.
 void Position::Carry(int from, int to, int count) {
     if (count == 1) {  // mostly, and much faster
-        const Card card = Top(from).Card;
+        const int card = Top(from).Card & ~Closed;
         Remove(from, 1);
-        Lay(to, static_cast<Card>(card & ~Closed));
+        Lay(to, card);
     } else {
         Remove(from, count);
         const Entry* const cards = &Top(from) + 1;
-        for (int i = 0; i < count; ++i) Lay(to, static_cast<Card>(cards[i].Card & ~Closed));
+        for (int i = 0; i < count; ++i) Lay(to, cards[i].Card & ~Closed);
     }
     if (IsHome(from) && (Top(from).Card & Closed) != 0) OpenTop(from);
 }
 
 void Position::OpenTop(int pile) {
-    const Card top = Top(pile).Card;
+    const int top = Top(pile).Card & ~Closed;
     Remove(pile, 1);
-    Lay(pile, static_cast<Card>(top & ~Closed));
+    Lay(pile, top);
 }
 
 void Position::CarryAndSettle(int from, int to, int count) {

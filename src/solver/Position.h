@@ -201,9 +201,10 @@ private:
         }));
         return piles;
     }
-    void Lay(int pile, Card card);
+    // A card comes as an int: as a byte it would be spilled as one and read back as a word, which waits.
+    void Lay(int pile, int card);
     void Remove(int pile, int count);
-    void Fill(Entry& entry, Group group, bool bottom, Card card) const;
+    void Fill(Entry& entry, Group group, bool bottom, int card) const;
     void NoteUse(Group group, int pile, int change);
     [[nodiscard]] KindSet Takes(int goal) const;
     void NoteGoals();

@@ -176,15 +176,20 @@ bool Search::Expand(std::uint32_t node) {
         if (early_[chain] != 0 && met_.Has(early_[chain])) continue;
         for (const Move* move = begin; move != list_.End(chain); ++move) position_.Make(*move);
         PlaySafeCards();
-        Child child{position_.Hash(),      chain,          false, nextMemory_, Worth(), Stage(),
-                    position_.CardsHome(), position_.Won()};
+        Child& child = children_.emplace_back();
+        child.Hash = position_.Hash();
+        child.Chain = chain;
+        child.Worth = Worth();
+        child.Stage = Stage();
+        child.Level = position_.CardsHome();
+        child.Won = position_.Won();
+        met_.Prefetch(child.Hash);
         if (single && children_.size() < Memories) {
-            Memory& memory = memory_[nextMemory_++];
+            child.Memory = nextMemory_++;
+            Memory& memory = memory_[child.Memory];
             memory.Number = NoNode;
             child.Remembered = position_.Remember(mark, memory.Effect);
         }
-        children_.push_back(child);
-        met_.Prefetch(children_.back().Hash);
         position_.TakeBack(mark);
     }
     for (const Child& child : children_) {

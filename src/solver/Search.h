@@ -72,14 +72,14 @@ private:
     std::uint32_t AddNode(std::uint32_t before, const Move& move, bool inner);
     /// A child of the position that is being looked into.
     struct Child {
-        std::uint64_t Hash;
-        std::size_t Chain;
-        bool Remembered;  ///< its effect, in the memory
-        std::uint8_t Memory;
-        int Worth;
-        int Stage;
-        int Level;
-        bool Won;
+        std::uint64_t Hash = 0;
+        std::size_t Chain = 0;
+        bool Remembered = false;  ///< its effect, in the memory
+        std::uint8_t Memory = 0;
+        int Worth = 0;
+        int Stage = 0;
+        int Level = 0;
+        bool Won = false;
     };
     /// The effects of the latest moves: from most positions the search goes on soon.
     struct Memory {
