@@ -109,6 +109,7 @@ public:
     [[nodiscard]] bool Ask(const std::string& question) override;
     [[nodiscard]] std::optional<std::string> AskSaveFile(const std::string& name,
                                                          const std::string& filter) override;
+    [[nodiscard]] std::optional<std::string> AskOpenFile(const std::string&) override { return OpenFile; }
     [[nodiscard]] bool ShowProgress(const std::string& task, int percent) override;
     [[nodiscard]] bool Listens() const override { return Listening; }
     void Announce(const std::string& text) override { Heard.push_back(text); }
@@ -127,6 +128,7 @@ public:
     std::vector<std::string> SaveQuestions;   ///< name, a bar, filter
     std::optional<std::string> SaveFile;      ///< the user's choice, each time
     std::vector<std::string> FirstSaveFiles;  ///< what the user chooses before, in turn
+    std::optional<std::string> OpenFile;      ///< the user's choice of a file to read
     int CancelAt = 101;                       ///< the percentage at which the user cancels a long task
     int LastPercent = -1;
     std::string Caption;

@@ -165,6 +165,9 @@ public:
     /// nothing where the user cancels. `name` is offered; `filter` reads "Text File (*.txt) |*.txt".
     [[nodiscard]] virtual std::optional<std::string> AskSaveFile(const std::string& name,
                                                                  const std::string& filter) = 0;
+    /// The path of a file to read, asked of the user; nothing where the user cancels. `filter` reads
+    /// "Records (*.csv *.sre)"; all files can be chosen besides.
+    [[nodiscard]] virtual std::optional<std::string> AskOpenFile(const std::string& filter) = 0;
     /// How far a long task is, 0 to 100 percent; 100 ends the display. False: the user cancels, and the
     /// display has ended.
     [[nodiscard]] virtual bool ShowProgress(const std::string& task, int percent) = 0;

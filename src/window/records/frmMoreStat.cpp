@@ -4,11 +4,9 @@
 #include <algorithm>
 
 #include <QComboBox>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -208,14 +206,12 @@ void frmMoreStat::Export() {
 }
 
 void frmMoreStat::Import() {
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString path = QFileDialog::getOpenFileName(this, windowTitle(), documents,
-                                                      tr("Records (*.csv *.sre);;All Files (*)"));
-    if (path.isEmpty()) return;
+    const auto path = gData->Layer().Forms.AskOpenFile("Records (*.csv *.sre)");
+    if (!path) return;
     ImportedRecords records;
     {
         const mDialog::BusyPointer busy;
-        if (!records.Read(path.toStdString())) return;
+        if (!records.Read(*path)) return;
     }
     if (frmImport(records, filter_.Player, this).exec() != QDialog::Accepted) return;
     // Both stand on the store, and what could not be read is told while the dialog is in sight.

@@ -18,6 +18,9 @@ namespace {
 
 QString ProductName() { return gData ? QString::fromStdString(gData->ProdName()) : QString(); }
 
+/// Where the user looks for files: not where the program happened to be started.
+QString Documents() { return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation); }
+
 /// What a message stands over: the dialog that is open, else the main window.
 QWidget* Owner(frmMain* main) {
     QWidget* dialog = QApplication::activeModalWidget();
@@ -64,14 +67,19 @@ bool ProgramForms::AskCritical(const std::string& question) {
 std::optional<std::string> ProgramForms::AskSaveFile(const std::string& name, const std::string& filter) {
     // The caption stands before the bar, its pattern in brackets, which is the form Qt reads.
     const QString shown = QString::fromStdString(filter.substr(0, filter.find('|'))).trimmed();
-    // Not where the program happened to be started: the user looks for the file among the documents.
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    QFileDialog dialog(Owner(main_), ProductName(), documents, shown);
+    QFileDialog dialog(Owner(main_), ProductName(), Documents(), shown);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(shown.section(QStringLiteral("*."), 1).section(QLatin1Char(')'), 0, 0));
     dialog.selectFile(QString::fromStdString(name));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return dialog.selectedFiles().constFirst().toStdString();
+}
+
+std::optional<std::string> ProgramForms::AskOpenFile(const std::string& filter) {
+    const QString path =
+        QFileDialog::getOpenFileName(Owner(main_), ProductName(), Documents(),
+                                     QString::fromStdString(filter) + QStringLiteral(";;All Files (*)"));
+    return path.isEmpty() ? std::nullopt : std::optional(path.toStdString());
 }
 
 bool ProgramForms::ShowProgress(const std::string& task, int percent) {

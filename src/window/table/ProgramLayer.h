@@ -30,6 +30,7 @@ public:
     [[nodiscard]] bool AskCritical(const std::string& question) override;
     [[nodiscard]] std::optional<std::string> AskSaveFile(const std::string& name,
                                                          const std::string& filter) override;
+    [[nodiscard]] std::optional<std::string> AskOpenFile(const std::string& filter) override;
     [[nodiscard]] bool ShowProgress(const std::string& task, int percent) override;
     [[nodiscard]] bool Listens() const override;
     void Announce(const std::string& text) override;
