@@ -30,6 +30,7 @@ SolverArguments::SolverArguments(int count, char** arguments, std::size_t number
                                  const std::string& deckOption) {
     const std::vector<std::string> words(arguments + 1, arguments + count);
     std::vector<std::string> plain;
+    bool homeSingly = false;
     const auto value = [&](std::size_t& i) -> const std::string& {
         if (++i == words.size()) throw ArgumentError(words[i - 1] + " wants something after it.");
         return words[i];
@@ -54,6 +55,8 @@ SolverArguments::SolverArguments(int count, char** arguments, std::size_t number
             Each = true;
         } else if (numbers == 2 && word == "--replay") {
             Replay = true;
+        } else if (numbers == 2 && word == "--home-singly") {
+            homeSingly = true;
         } else if (word.starts_with("--")) {
             throw ArgumentError("There is no option " + word + ".");
         } else {
@@ -63,7 +66,14 @@ SolverArguments::SolverArguments(int count, char** arguments, std::size_t number
     if (plain.empty()) throw ArgumentError("Which game?");
     Game = mFamilies::Find(plain[0]);
     if (Game == nullptr) throw ArgumentError("There is no game \"" + plain[0] + "\".");
-    Numbers = Solver::NumbersOf(*Game);
+    Definition rules = *Game;
+    if (homeSingly) {
+        if (Replay || rules.Kind != GameType::CompleteRuns)
+            throw ArgumentError(
+                "--home-singly is for games of complete runs, and not what the engine plays.");
+        rules.Kind = GameType::Plain;
+    }
+    Numbers = Solver::NumbersOf(rules);
     const std::size_t wanted = Decks ? 0 : numbers;
     if (plain.size() != wanted + 1) throw ArgumentError("Which deals?");
     for (std::size_t i = 1; i < plain.size(); ++i) {

@@ -11,6 +11,8 @@
 //   from 1
 //   --jobs N    works in N processes
 //   --replay    each win is played by the engine before it counts
+//   --home-singly   single cards go to the foundations, as published rules have it, where by the game's own
+//   rules only complete runs leave
 #include <algorithm>
 #include <array>
 #include <atomic>

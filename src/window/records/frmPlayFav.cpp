@@ -1,6 +1,8 @@
 // The dialog "Play from Favorites".
 #include "window/records/frmPlayFav.h"
 
+#include <algorithm>
+
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -69,15 +71,18 @@ void frmPlayFav::Load() {
 
 void frmPlayFav::MarkGames() {
     const std::vector<std::string> notes = mFavourites::Notes(gData->GameNames());
+    int widest = 0;
     for (int i = 0; i < cmGames->count(); ++i) {
         const QString note = QString::fromStdString(notes.at(static_cast<std::size_t>(i)));
         if (note.isEmpty()) continue;
+        widest = std::max(widest, fontMetrics().horizontalAdvance(mDialog::Padded(note)));
         cmGames->setItemData(i, note, NotedDelegate::NoteRole);
         cmGames->setItemData(i, NotedDelegate::Spoken(cmGames->itemText(i), note), Qt::AccessibleTextRole);
         cmGames->setItemIcon(i, ilsIcons::Favorite());
     }
-    // The open list has room for the notes, which the box itself does not show.
-    cmGames->view()->setMinimumWidth(cmGames->view()->sizeHintForColumn(0) +
+    // The open list has room for the notes, which the box itself does not show. The box has measured the
+    // names already: to ask the list would measure all of them again.
+    cmGames->view()->setMinimumWidth(cmGames->sizeHint().width() + widest +
                                      style()->pixelMetric(QStyle::PM_ScrollBarExtent));
 }
 

@@ -187,6 +187,23 @@ void ExpectDealtIn(Walk walk) {
     EXPECT_EQ(gArray->GetTop(Stock), next) << "the rest stays in the stock";
 }
 
+// The opening position that is worked out without a table, for the rules pages, is the one dealt on it.
+void ExpectTheOpeningOnTheTable() {
+    const mDeal::Opening opening = mDeal::Deal(*gGames, 1.0);
+    for (const int Cell : {Home, Stock}) {
+        for (int Pile = 0; Pile < gGames->Piles(Cell); ++Pile) {
+            const auto& cards =
+                opening.Piles.at(static_cast<std::size_t>(Cell)).at(static_cast<std::size_t>(Pile));
+            EXPECT_EQ(static_cast<int>(cards.size()) - 1, gArray->GetTop(Cell, Pile));
+            int Pos = 0;
+            for (const auto& [PicID, closed] : cards) {
+                EXPECT_EQ(PicID, gArray->GetPicID(Cell, Pile, Pos++));
+                EXPECT_EQ(closed, mFunc::CardFaceMode(PicID) == 1);
+            }
+        }
+    }
+}
+
 TEST_F(Deal, Patterns) {
     struct Case {
         HomeType Type;
@@ -243,6 +260,7 @@ TEST_F(Deal, Patterns) {
         mPosition::Deal(game_, 1.0);
         EXPECT_EQ(Shape(), row.Shape);
         ExpectDealtIn(row.Order);
+        ExpectTheOpeningOnTheTable();
     }
 }
 
@@ -280,6 +298,7 @@ TEST_F(Deal, KingsSink) {
     for (const bool sink : {false, true}) {
         game_.Ext.cMoveKings = sink;
         mPosition::Deal(game_, 1.0);
+        ExpectTheOpeningOnTheTable();
         bool above = false;
         for (int PicID = 0; PicID < 52; ++PicID) {
             above = above || (mFunc::CardNum(PicID) == 12 && mFunc::CardCell(PicID) == Home &&
