@@ -6,13 +6,32 @@
 namespace Solver {
 
 Weights::Weights(const Rules& rules) {
-    if (rules.TotalCards > DeckCards) {
+    const bool twoPacks = rules.TotalCards > DeckCards;
+    if (rules.RunsLeave) {
+        // A run that leaves takes the worth of its pairs along: its cards must be worth more at home.
+        Home = twoPacks ? 30 : 60;
+        Covering = -14;
+        Pair = 0;
+        Lifted = 0;
+        Leaving = 30;
+        Longer = 1;
+        EmptyPile = twoPacks ? 30 : 4;
+        EmptyCell = twoPacks ? 17 : 24;
+        Depth = -3;
+        if (twoPacks) {
+            Bottom = 32;
+            Talon = -16;
+        }
+    } else if (twoPacks) {
+        Covering = -8;
+        Pair = 24;
         Lifted = 8;
-        Closed = -40;
-        EmptyPile = 24;
-        EmptyCell = 32;
+        Closed = -56;
+        EmptyPile = 3;
+        EmptyCell = 11;
         Bottom = 32;
-    } else if (!rules.RunsLeave) {
+        Depth = 4;
+    } else {
         Home = 56;
         Covering = -28;
         Pair = 19;
@@ -21,18 +40,6 @@ Weights::Weights(const Rules& rules) {
         EmptyCell = 19;
         Bottom = 36;
         Depth = -16;
-    }
-    // A run that leaves takes the worth of its pairs along: its cards must be worth more at home.
-    if (rules.RunsLeave) {
-        Home = 60;
-        Covering = -14;
-        Pair = 0;
-        Lifted = 0;
-        Leaving = 30;
-        Longer = 1;
-        EmptyPile = rules.TotalCards > DeckCards ? 60 : 4;
-        EmptyCell = 24;
-        Depth = -3;
     }
 }
 
