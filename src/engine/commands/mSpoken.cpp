@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include "engine/help/mRulesWords.h"
 #include "engine/rules/mPlay.h"
