@@ -172,8 +172,9 @@ void Monkey::PressKey(QWidget* window) {
     constexpr Qt::KeyboardModifier modifiers[] = {Qt::NoModifier, Qt::NoModifier, Qt::NoModifier,
                                                   Qt::ShiftModifier, Qt::ControlModifier};
     const Qt::KeyboardModifier modifier = modifiers[Pick(5)];
-    const QString text =
-        key == Qt::Key_Space ? QStringLiteral(" ") : (key < 128 ? QString(QChar(key)) : QString());
+    const QString text = key == Qt::Key_Space
+                             ? QStringLiteral(" ")
+                             : (key < 128 ? QString(QChar(static_cast<char16_t>(key))) : QString());
     hands_.Key(window, key, modifier, modifier == Qt::ControlModifier ? QString() : text);
 }
 
