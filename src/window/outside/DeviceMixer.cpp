@@ -46,6 +46,9 @@ public:
              {"QT_FFMPEG_DECODING_HW_DEVICE_TYPES", "QT_FFMPEG_ENCODING_HW_DEVICE_TYPES"}) {
             if (!qEnvironmentVariableIsSet(devices)) qputenv(devices, ",");
         }
+        // Newer versions of Qt ask PipeWire, whose library tells on the terminal that it is not there.
+        constexpr const char* Log = "PIPEWIRE_DEBUG";
+        if (!qEnvironmentVariableIsSet(Log)) qputenv(Log, "0");
     }
     void Play(const QString& wave) override {
         const QAudioDevice device = QMediaDevices::defaultAudioOutput();
