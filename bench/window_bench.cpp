@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdio>
 #include <ctime>
+#include <limits>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -116,11 +117,15 @@ void MeasureZoom(TableView& table) {
 
 void MeasureDeal(const TableView& table) {
     constexpr int Cards = 104;
+    constexpr int Deals = 3;  // the least of them: what others do on the machine can only add to it
     const double period = 1000.0 / table.screen()->refreshRate();
-    QElapsedTimer timer;
-    timer.start();
-    mGen::StartGame("Mandate", 1.0);
-    const double beyond = static_cast<double>(timer.nsecsElapsed()) / 1e6 - Cards * period;
+    double beyond = std::numeric_limits<double>::infinity();
+    for (int i = 0; i < Deals; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        mGen::StartGame("Mandate", 1.0);
+        beyond = std::min(beyond, static_cast<double>(timer.nsecsElapsed()) / 1e6 - Cards * period);
+    }
     mFigures::Print("a deal of 104 cards, time beyond 104 refreshes", beyond, "ms");
 }
 
