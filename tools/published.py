@@ -6,9 +6,9 @@ usage: published.py [--program PATH] [--deals N] [--limit STATES] [--jobs N] [--
 Prints a row a game as it is done. The published shares are those of Blake and Gent, "The winnability of Klondike
 Solitaire and many other patience games", JAIR 85, 2026. A share agrees when the published one lies between what was won
 and what was won or left unknown, give or take two sampling errors. Where our rules are the stricter ones it can only be
-higher than what we win. Decks are the same at every run; another word for
-the seed gives others. What is found is kept, a line a deal in a file a game, so that a run can be stopped and called
-again: a deal is tried again only where no answer was found within fewer states than are asked for now.
+higher than what we win. Decks are the same at every run; another word for the seed gives others. What is found is kept,
+a line a deal in a file a row, so that a run can be stopped and called again: a deal is tried again only where no answer
+was found within fewer states than are asked for now.
 """
 import argparse
 import math

@@ -1,4 +1,5 @@
 // The deal: what lies on the foundations, which pile each next card goes to, and which cards lie closed.
+#include <algorithm>
 #include <set>
 
 #include <fmt/format.h>
@@ -190,16 +191,13 @@ void ExpectDealtIn(Walk walk) {
 // The opening position that is worked out without a table, for the rules pages, is the one dealt on it.
 void ExpectTheOpeningOnTheTable() {
     const mDeal::Opening opening = mDeal::Deal(*gGames, 1.0);
-    for (const int Cell : {Home, Stock}) {
-        for (int Pile = 0; Pile < gGames->Piles(Cell); ++Pile) {
-            const auto& cards =
-                opening.Piles.at(static_cast<std::size_t>(Cell)).at(static_cast<std::size_t>(Pile));
-            EXPECT_EQ(static_cast<int>(cards.size()) - 1, gArray->GetTop(Cell, Pile));
-            int Pos = 0;
-            for (const auto& [PicID, closed] : cards) {
-                EXPECT_EQ(PicID, gArray->GetPicID(Cell, Pile, Pos++));
-                EXPECT_EQ(closed, mFunc::CardFaceMode(PicID) == 1);
-            }
+    const auto isSame = [](const mDeal::Lying& lying, int PicID) {
+        return lying.PicID == PicID && lying.Closed == (mFunc::CardFaceMode(PicID) == 1);
+    };
+    for (const std::size_t Cell : {Home, Stock}) {
+        for (int Pile = 0; const auto& cards : opening.Piles.at(Cell)) {
+            const auto table = gArray->Cards(static_cast<int>(Cell), Pile++);
+            EXPECT_TRUE(std::equal(cards.begin(), cards.end(), table.begin(), table.end(), isSame)) << Pile;
         }
     }
 }
